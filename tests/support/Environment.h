@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// What a test of the program stands on: an empty working directory and an empty device root of its
+/// own, removed at the end, with the resources, fonts and style sheet of the product.
+class Environment
+{
+public:
+    /// Needs a QApplication.
+    Environment();
+    ~Environment();
+
+    /// The folder that stands for the root of the device ("<root>/dev", "<root>/sys" ...).
+    static QString deviceRoot();
+
+    /// Writes @p content to @p path below the device root, making the folders it needs.
+    static void writeDeviceFile(const QString &path, const QByteArray &content);
+
+private:
+    QTemporaryDir directory;
+    QString previousDirectory;
+};
+
+/// The main function of a test program that runs @p TestClass in an Environment of its own.
+#define ZELL_TEST_MAIN(TestClass)                                                                  \
+    int main(int argc, char *argv[])                                                               \
+    {                                                                                              \
+        QApplication application(argc, argv);                                                      \
+        Environment environment;                                                                   \
+        TestClass test;                                                                            \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <QWidget>
+
+/// A finger on the screen: real mouse events, sent to the widget that the window finds under them.
+
+/// Presses and releases at @p position of @p window.
+void tapAt(QWidget *window, const QPoint &position);
+
+/// Taps the middle of @p widget through its window. For widgets that are not inside a graphics
+/// view.
+void tap(QWidget *widget);
+
+/// Presses at @p from, moves in @p steps to @p to and releases there.
+void drag(QWidget *window, const QPoint &from, const QPoint &to, int steps = 4);
+
+/// Presses at @p position and keeps the finger down.
+void pressAt(QWidget *window, const QPoint &position);
+void moveTo(QWidget *window, const QPoint &position);
+void releaseAt(QWidget *window, const QPoint &position);
+
+/// The one descendant of @p root named @p objectName that is visible, or null.
+QWidget *visibleChild(QWidget *root, const QString &objectName);
