@@ -8,6 +8,13 @@
 #include <QDebug>
 #include <QFile>
 #include <QFontDatabase>
+#include <QTimer>
+#include <chrono>
+#include <ctime>
+
+namespace {
+constexpr std::chrono::seconds tick{1};
+}
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -16,6 +23,11 @@ MainWindow::MainWindow(QWidget *parent)
     ui->setupUi(this);
     style_setup();
     font_init();
+
+    auto *clock = new QTimer(this);
+    connect(clock, &QTimer::timeout, this, &MainWindow::time_update);
+    clock->start(tick);
+
     ui->stackedWidget->setCurrentWidget(ui->page_main);
 }
 
@@ -34,6 +46,23 @@ void MainWindow::font_init()
     substituteFonts();
     for (const QString &family : QFontDatabase::families())
         qDebug() << "add Font:" << family;
+}
+
+void MainWindow::time_update()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    ++local.tm_sec;
+    static_cast<void>(std::mktime(&local));
+}
+
+void MainWindow::change_status()
+{
+    if (!active)
+        return;
+    active = false;
+    emit signal_inactiveStatus();
 }
 
 void MainWindow::jump_toOption()

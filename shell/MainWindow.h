@@ -16,6 +16,17 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
+signals:
+    void signal_update();
+    void signal_activeStatus();
+    void signal_inactiveStatus();
+
+public slots:
+    /// The tick of every second: a hook without effect.
+    void time_update();
+    /// Puts an active window to rest, once: hook for a screen that may sleep.
+    void change_status();
+
 private slots:
     void jump_toOption();
     void jump_toMainPage();
@@ -26,4 +37,5 @@ private:
     void font_init();
 
     std::unique_ptr<Ui::MainWindow> ui;
+    bool active = true;
 };
