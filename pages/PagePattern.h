@@ -1,19 +1,49 @@
 #pragma once
 
+#include <QPalette>
 #include <QStackedWidget>
+
+/// Shows @p page above the pages of earlier visits to @p holder, connects its way back to @p goBack
+/// of @p opener and makes @p holder the current page of @p stack.
+///
+/// The page is shown explicitly, so that it also appears when its holder is on the screen already.
+/// It is filled with the colour of all settings pages; being opaque, it spares the device the
+/// painting of the pages beneath it.
+template <class Page, class Opener>
+void showPage(Page *page, Opener *opener, QStackedWidget *stack, QWidget *holder,
+              void (Opener::*goBack)())
+{
+    QPalette colours = page->palette();
+    colours.setColor(QPalette::Window, QColor(33, 33, 33));
+    page->setPalette(colours);
+    page->setAutoFillBackground(true);
+    QObject::connect(page, &Page::signal_backDefaultPage, opener, goBack);
+    page->raise();
+    page->show();
+    stack->setCurrentWidget(holder);
+}
 
 /// The way every sub-page is opened.
 ///
-/// Builds a fresh @p Page inside @p holder, connects its way back to @p goBack of @p opener, shows
-/// it above the pages of earlier visits (which stay until the opener goes) and makes @p holder the
-/// current page of @p stack. The new page is shown explicitly, so that it also appears when its
-/// holder is on the screen already. Returns the new page, owned by @p holder.
+/// Builds a fresh @p Page inside @p holder and shows it. The pages of earlier visits stay until the
+/// opener goes. Returns the new page, owned by @p holder.
 template <class Page, class Opener>
 Page *openPage(Opener *opener, QStackedWidget *stack, QWidget *holder, void (Opener::*goBack)())
 {
     auto *page = new Page(holder);
-    QObject::connect(page, &Page::signal_backDefaultPage, opener, goBack);
-    page->show();
-    stack->setCurrentWidget(holder);
+    showPage(page, opener, stack, holder, goBack);
     return page;
+}
+
+/// The one instance of a @p Page that exists once, moved into @p holder; built on the first call.
+/// To be shown with showPage(). Owned by its present holder; Page::instance must become null when
+/// the page goes.
+template <class Page>
+Page *singlePage(QWidget *holder)
+{
+    if (Page::instance == nullptr)
+        Page::instance = new Page(holder);
+    else if (Page::instance->parentWidget() != holder)
+        Page::instance->setParent(holder);
+    return Page::instance;
 }

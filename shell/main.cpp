@@ -4,10 +4,12 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QQuickWindow>
 #include <QTranslator>
 
 int main(int argc, char *argv[])
 {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QApplication application(argc, argv);
     Q_INIT_RESOURCE(ZellQt);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -28,6 +29,7 @@ private:
 #define ZELL_TEST_MAIN(TestClass)                                                                  \
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);                              \
         QApplication application(argc, argv);                                                      \
         Environment environment;                                                                   \
         TestClass test;                                                                            \
