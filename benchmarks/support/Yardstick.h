@@ -1,0 +1,31 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <functional>
+#include <vector>
+
+/// Measures work in copies of a screen.
+///
+/// Absolute times say little across machines, so every budget of this product is a ratio to one
+/// memcpy of a whole frame (854 x 480 x 4 bytes). The copy is timed in turn with the work, in the
+/// same loop, so that a busy machine slows both alike; the ratio is that of the medians.
+class Yardstick
+{
+public:
+    /// Runs @p work once per iteration of @p state and reports the counters "work_us", "memcpy_us",
+    /// "ratio" and "limit". A ratio above @p limit marks the benchmark as failed and makes the
+    /// program return 1. @p prepare runs before each round and is not measured. The benchmark must
+    /// be registered with UseManualTime().
+    static void measure(benchmark::State &state, double limit, const std::function<void()> &work,
+                        const std::function<void()> &prepare = {});
+
+    /// How many benchmarks of this program have missed their limit.
+    static int missed();
+
+private:
+    using Seconds = std::chrono::duration<double>;
+
+    static Seconds timeOf(const std::function<void()> &work);
+    static Seconds medianOf(std::vector<Seconds> samples);
+};
