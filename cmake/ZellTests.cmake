@@ -1,10 +1,13 @@
 # zell_add_test(name SOURCES ... LIBRARIES ... [TIMEOUT seconds] [SERIAL])
-# One QtTest program, run by CTest on the offscreen platform. SERIAL: it measures or keeps both
+# One QtTest program, run by CTest on the offscreen platform. Its reference pictures lie in the
+# folder "reference" beside it (ZELL_REFERENCE_DIR in the code). SERIAL: it measures or keeps both
 # cores busy and must not share the machine.
 function(zell_add_test name)
     cmake_parse_arguments(arg "SERIAL" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     zell_configure_target(${name})
+    target_compile_definitions(${name} PRIVATE
+        ZELL_REFERENCE_DIR="${CMAKE_CURRENT_SOURCE_DIR}/reference")
     target_link_libraries(${name} PRIVATE zell_test_support Qt6::Test ${arg_LIBRARIES})
     add_test(NAME ${name} COMMAND ${name})
     if(NOT arg_TIMEOUT)
