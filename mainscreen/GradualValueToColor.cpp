@@ -1,0 +1,66 @@
+#include "mainscreen/GradualValueToColor.h"
+
+#include <QDebug>
+#include <algorithm>
+
+void GradualValueToColor::setStartColor(int color)
+{
+    setColorAt(0.0F, color);
+}
+
+void GradualValueToColor::setEndColor(int color)
+{
+    setColorAt(1.0F, color);
+}
+
+void GradualValueToColor::setColorAt(float position, int color)
+{
+    RGB parsed;
+    parseHexToRGB(color, parsed.r, parsed.g, parsed.b);
+    colors[position] = parsed;
+    positions.append(position);
+    std::sort(positions.begin(), positions.end());
+}
+
+void GradualValueToColor::parseHexToRGB(int color, int &r, int &g, int &b)
+{
+    const QString digits = QStringLiteral("00000") + QString::number(color, 16);
+    const auto channel = [&](qsizetype fromEnd) {
+        return digits.mid(digits.size() - fromEnd, 2).toInt(nullptr, 16);
+    };
+    r = channel(6);
+    g = channel(4);
+    b = channel(2);
+    qDebug() << "parse"
+             << "red" << r << "green" << g << "blue" << b;
+}
+
+QString GradualValueToColor::colorAt(float value)
+{
+    // Written so that NaN, which compares false with everything, becomes 0.
+    const float inside = value > 0.0F ? std::min(value, 1.0F) : 0.0F;
+    const auto [lower, upper] = findRangRgb(inside, colors);
+    const RGB low = colors[lower];
+    const RGB high = colors[upper];
+    const float t = (inside - lower) / (upper - lower);
+    const float u = 1.0F - t;
+    const auto blend = [&](int from, int to) { return int(u * float(from) + t * float(to)); };
+
+    const int combined =
+        (blend(low.r, high.r) << 16) | (blend(low.g, high.g) << 8) | blend(low.b, high.b);
+    const QString digits = QString::number(combined, 16);
+    return digits.size() >= 6 ? QLatin1Char('#') + digits.right(6) : QStringLiteral("#0") + digits;
+}
+
+std::pair<float, float> findRangRgb(float value, const QMap<float, RGB> &stops)
+{
+    constexpr std::pair<float, float> whole{0.0F, 1.0F};
+    if (value <= 0.0F || value >= 1.0F || stops.size() < 2)
+        return whole;
+    for (auto upper = std::next(stops.cbegin()); upper != stops.cend(); ++upper) {
+        const float lower = std::prev(upper).key();
+        if (lower < value && value <= upper.key())
+            return {lower, upper.key()};
+    }
+    return whole;
+}
