@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+/// How a reading is written in digit pictures.
+
+/// What one place of the row shows: a digit from 0 to 9 or one of the values below.
+using Glyph = int;
+inline constexpr Glyph glyphHidden = -1;
+/// The place is kept but stays empty: there is no picture for its digit.
+inline constexpr Glyph glyphBlank = -2;
+/// The minus sign, and the mark of a missing reading.
+inline constexpr Glyph glyphDash = -3;
+
+/// One reading, from left to right.
+struct DigitRow
+{
+    /// Minus sign, or the thousands of PM2.5.
+    Glyph minus = glyphHidden;
+    Glyph hundreds = glyphHidden;
+    Glyph tens = glyphDash;
+    Glyph units = glyphDash;
+    /// Width of the row's frame in pixels; it keeps the row centred.
+    int width = 0;
+    bool hidesUnit = false;
+
+    bool operator==(const DigitRow &) const = default;
+    /// Whether a place has no picture.
+    bool hasBlank() const;
+};
+
+/// The row of a PM2.5 value in ug/m3: three places below 1000, four from there, two dashes for
+/// INVALID_READING, nothing from 10000 (not credible). A negative value, which no sensor delivers,
+/// gives three dashes.
+std::optional<DigitRow> pmRow(int value);
+
+/// The row of a temperature in whole degrees: a minus sign where needed and two places, of which
+/// the tens stay blank from 100; two dashes without unit for INVALID_READING.
+DigitRow temperatureRow(int value);
+
+/// The row of a relative humidity in per cent; places as in temperatureRow(), two dashes with the
+/// unit for a negative value.
+DigitRow humidityRow(int value);
+
+/// Resource of a digit or dash. Empty for a hidden or blank place.
+QString glyphPicture(Glyph glyph);

@@ -1,0 +1,24 @@
+#include "mainscreen/HumidityPage.h"
+
+#include "shell/Global_cfg.h"
+
+#include <QDebug>
+
+namespace {
+constexpr int valueAtStart = 40;
+}
+
+HumidityPage::HumidityPage(QWidget *parent)
+    : BaseValue(parent)
+{
+    setObjectName(QStringLiteral("HumidityPage"));
+    setUnitPicture(QStringLiteral(":/resource/images/mainPage/num/%.png"));
+    showRow(humidityRow(valueAtStart));
+}
+
+void HumidityPage::update_currentData(int iValue)
+{
+    if (iValue == INVALID_READING)
+        qDebug("Error Hum number:9999");
+    showRow(humidityRow(iValue));
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "mainscreen/BaseValue.h"
+
+/// The page of the relative humidity, in whole per cent.
+class HumidityPage : public BaseValue
+{
+    Q_OBJECT
+
+public:
+    explicit HumidityPage(QWidget *parent = nullptr);
+
+public slots:
+    /// Shows @p iValue; INVALID_READING gives dashes and takes the unit away for good.
+    void update_currentData(int iValue);
+};

@@ -1,0 +1,175 @@
+#include "mainscreen/PmAnimation.h"
+
+#include <QLabel>
+#include <QParallelAnimationGroup>
+#include <QPropertyAnimation>
+#include <QSequentialAnimationGroup>
+#include <chrono>
+
+namespace {
+using namespace std::chrono_literals;
+
+constexpr QSize widgetSize{442, 150};
+constexpr QRect sensorRect{100, 0, 242, 141};
+constexpr QSize barSize{19, 112};
+constexpr int sweepStart = 18;
+constexpr int sweepEnd = 200;
+constexpr int chamberTop = 16;
+constexpr int chamberHeight = 108;
+constexpr int entryHeight = 90;
+constexpr int granuleReach = 100;
+constexpr int granulesPerGroup = 4;
+constexpr std::chrono::milliseconds sweepTime = 5s;
+constexpr std::chrono::milliseconds smallGranuleTime = 15s;
+constexpr std::chrono::milliseconds largeGranuleTime = 13s;
+
+QPixmap picture(const QString &name)
+{
+    return QPixmap(QStringLiteral(":/resource/images/mainPage/other/%1.png").arg(name));
+}
+} // namespace
+
+PmAnimation::PmAnimation(QWidget *parent)
+    : QFrame(parent)
+    , granulesA(new QParallelAnimationGroup(this))
+    , sweepSequence(new QSequentialAnimationGroup(this))
+    , granulesB(new QParallelAnimationGroup(this))
+    , whole(new QParallelAnimationGroup(this))
+{
+    setObjectName(QStringLiteral("PmAnimation"));
+    resize(widgetSize);
+}
+
+void PmAnimation::init()
+{
+    sensor = new QFrame(this);
+    sensor->move(sensorRect.topLeft());
+    sensor->setFixedSize(sensorRect.size());
+    sensor->setStyleSheet(
+        QStringLiteral("border-image: url(:/resource/images/mainPage/other/Zell.png);"));
+    bar = new QLabel(this);
+    bar->setObjectName(QStringLiteral("label_scanning"));
+    bar->setPixmap(picture(QStringLiteral("scanning")));
+    bar->setGeometry(getScanningStartRectF());
+    random.seed(0);
+    scanCounter = 0;
+    bar->show();
+    sensor->show();
+
+    initSweeps();
+    initGranuleGroup();
+    for (QAnimationGroup *group :
+         std::initializer_list<QAnimationGroup *>{granulesA, sweepSequence, granulesB})
+        whole->addAnimation(group);
+    connect(whole, &QAbstractAnimation::finished, this, &PmAnimation::restart);
+}
+
+void PmAnimation::startAnimation()
+{
+    whole->start();
+}
+
+void PmAnimation::stopAnimation()
+{
+    whole->stop();
+    hide();
+}
+
+void PmAnimation::changedScanning()
+{
+    const bool forward = scanCounter % 2 != 0;
+    bar->setPixmap(picture(forward ? QStringLiteral("scanning") : QStringLiteral("scanning2")));
+    ++scanCounter;
+}
+
+// The labels that move repaint themselves; nothing is left to do.
+void PmAnimation::repaintUI(const QVariant &) {}
+
+void PmAnimation::restart()
+{
+    whole->start();
+}
+
+QRect PmAnimation::getScanningStartRectF() const
+{
+    return {sensor->pos() + QPoint(sweepStart, chamberTop), barSize};
+}
+
+QRect PmAnimation::getScanningEndRectF() const
+{
+    return {sensor->pos() + QPoint(sweepEnd, chamberTop), barSize};
+}
+
+int PmAnimation::getRandOfY()
+{
+    return random.bounded(entryHeight) + sensor->y() + chamberTop;
+}
+
+QPoint PmAnimation::getRandOfRectF()
+{
+    const int x = random.bounded(sensorRect.width()) + sensor->x();
+    const int y = random.bounded(chamberHeight) + sensor->y() + chamberTop;
+    return {x, y};
+}
+
+QPoint PmAnimation::getGranuleStartPoint()
+{
+    return {sensor->x() - granuleReach, getRandOfY()};
+}
+
+QPoint PmAnimation::getGranuleEndPoint()
+{
+    return {sensor->x() + sensorRect.width() + granuleReach, getRandOfY()};
+}
+
+QPropertyAnimation *PmAnimation::getAnimation()
+{
+    constexpr int kinds = 4;
+    constexpr int largeKind = 3;
+    const int kind = random.bounded(kinds);
+    const int size = kind == 1 ? 4 : kind == 2 ? 5 : 6;
+
+    auto *granule = new QLabel(this);
+    granule->setObjectName(QStringLiteral("label_granule"));
+    granule->setPixmap(picture(QStringLiteral("Granule%1").arg(size)));
+    granule->resize(size, size);
+
+    auto *animation = new QPropertyAnimation(granule, "pos");
+    animation->setDuration(int((kind == largeKind ? largeGranuleTime : smallGranuleTime).count()));
+    animation->setKeyValueAt(0, getGranuleStartPoint());
+    animation->setKeyValueAt(0.4, getRandOfRectF());
+    animation->setKeyValueAt(0.7, getRandOfRectF());
+    animation->setKeyValueAt(1, getGranuleEndPoint());
+    granule->move(animation->startValue().toPoint());
+    connect(animation, &QVariantAnimation::valueChanged, this, &PmAnimation::repaintUI);
+    return animation;
+}
+
+QPropertyAnimation *PmAnimation::newSweep(const QRect &from, const QRect &to)
+{
+    auto *sweep = new QPropertyAnimation(bar, "geometry");
+    sweep->setDuration(int(sweepTime.count()));
+    sweep->setStartValue(from);
+    sweep->setEndValue(to);
+    connect(sweep, &QVariantAnimation::valueChanged, this, &PmAnimation::repaintUI);
+    return sweep;
+}
+
+void PmAnimation::initSweeps()
+{
+    const QRect start = getScanningStartRectF();
+    const QRect end = getScanningEndRectF();
+    sweeps = {newSweep(start, end), newSweep(end, start), newSweep(start, end)};
+    for (QPropertyAnimation *sweep : {sweeps[0], sweeps[1]})
+        connect(sweep, &QAbstractAnimation::finished, this, &PmAnimation::changedScanning);
+    for (QPropertyAnimation *sweep : sweeps)
+        sweepSequence->addAnimation(sweep);
+}
+
+void PmAnimation::initGranuleGroup()
+{
+    for (QParallelAnimationGroup *group : {granulesA, granulesB}) {
+        for (int i = 0; i < granulesPerGroup; ++i)
+            group->addAnimation(getAnimation());
+    }
+}

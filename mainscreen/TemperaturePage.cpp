@@ -1,0 +1,22 @@
+#include "mainscreen/TemperaturePage.h"
+
+#include "shell/Global_cfg.h"
+
+#include <QDebug>
+
+TemperaturePage::TemperaturePage(QWidget *parent)
+    : BaseValue(parent)
+{
+    setObjectName(QStringLiteral("TemperaturePage"));
+    setUnitPicture(QStringLiteral(":/resource/images/mainPage/num/°C.png"));
+    DigitRow noReadingYet = temperatureRow(INVALID_READING);
+    noReadingYet.hidesUnit = false;
+    showRow(noReadingYet);
+}
+
+void TemperaturePage::update_currentData(int iValue)
+{
+    if (iValue == INVALID_READING)
+        qDebug("Error Temp number:9999");
+    showRow(temperatureRow(iValue));
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "mainscreen/BaseValue.h"
+
+/// The page of the temperature, in whole degrees Celsius. Shows two dashes until the first reading.
+class TemperaturePage : public BaseValue
+{
+    Q_OBJECT
+
+public:
+    explicit TemperaturePage(QWidget *parent = nullptr);
+
+public slots:
+    /// Shows @p iValue; INVALID_READING gives dashes and takes the unit away for good.
+    void update_currentData(int iValue);
+};
