@@ -1,0 +1,65 @@
+#include "acquisition/SensorText.h"
+
+#include "shell/Global_cfg.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+constexpr int temperatureField = 7;
+constexpr int humidityField = 25;
+constexpr int fieldLength = 5;
+constexpr int lowestTemperature = -40;
+constexpr int highestTemperature = 100;
+constexpr int highestHumidity = 100;
+constexpr int highestAverage = 2000;
+/// A sysfs file never holds more than a page.
+constexpr qint64 longestFile = 4096;
+
+/// The whole units of the field at @p position. @p valid decides on a number that is there.
+int readField(const QString &text, int position, int (*valid)(int))
+{
+    bool isNumber = false;
+    const int thousandths = text.mid(position, fieldLength).toInt(&isNumber);
+    return isNumber ? valid(wholeUnits(thousandths)) : INVALID_READING;
+}
+} // namespace
+
+int wholeUnits(int thousandths)
+{
+    return int((qint64(thousandths) + 500) / 1000);
+}
+
+int validTemperature(int temperature)
+{
+    const bool isValid = temperature >= lowestTemperature && temperature <= highestTemperature;
+    return isValid ? temperature : INVALID_READING;
+}
+
+int validHumidity(int humidity)
+{
+    return humidity <= highestHumidity ? humidity : INVALID_READING;
+}
+
+int validAverage(int value)
+{
+    return value <= highestAverage ? value : INVALID_READING;
+}
+
+TempHumReading parseTempHum(const QByteArray &text)
+{
+    const QString characters = QString::fromUtf8(text);
+    return {readField(characters, temperatureField, validTemperature),
+            readField(characters, humidityField, validHumidity)};
+}
+
+QByteArray readSensorFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.isFile() || info.size() == 0)
+        return {};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return {};
+    return file.read(longestFile);
+}

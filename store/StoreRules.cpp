@@ -1,0 +1,32 @@
+#include "store/StoreRules.h"
+
+#include <QDateTime>
+#include <algorithm>
+
+namespace {
+constexpr std::time_t sixDays = 518400;
+}
+
+QStringList tableStatements()
+{
+    return {
+        QStringLiteral("create table PM2_5 (UnixSec uint, Time varchar(30),PM2_5 int)"),
+        QStringLiteral(
+            "create table TempAndHum (UnixSec uint, Time varchar(30),Temp int,Hum  int)"),
+        QStringLiteral("create table PM2_5_NoWiFi (UnixSec uint, Time varchar(30),PM2_5 int)"),
+        QStringLiteral(
+            "create table TempAndHum_NoWiFi (UnixSec uint, Time varchar(30),Temp int,Hum  int)"),
+    };
+}
+
+std::time_t retentionCutoff(std::time_t now)
+{
+    const QTime clock = QDateTime::fromSecsSinceEpoch(now).time();
+    const std::time_t secondsToday = clock.msecsSinceStartOfDay() / 1000;
+    return std::max<std::time_t>(0, now - sixDays - secondsToday);
+}
+
+QString localTimeText(std::time_t time)
+{
+    return QDateTime::fromSecsSinceEpoch(time).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}

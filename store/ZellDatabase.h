@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QString>
+#include <QThread>
+#include <ctime>
+#include <memory>
+#include <vector>
+
+class GetData;
+
+/// The measurement history: one SQLite file on Qt's default connection.
+///
+/// Works in the thread of its caller, the GUI thread; its own thread never runs. A failure is told
+/// by one debug line where the function says so and is otherwise silent: nothing is retried, no
+/// error reaches the caller, and the program goes on. A locked file is waited for a tenth of a
+/// second at the most, so that the screen never freezes.
+class ZellDatabase : public QThread
+{
+    Q_OBJECT
+
+public:
+    explicit ZellDatabase(QObject *parent = nullptr);
+    /// Takes the schedulers along that its inserts built.
+    ~ZellDatabase() override;
+
+    /// No effect: CreateDataBase() opens the file and nothing closes it.
+    void open_database();
+    void close_database();
+
+    /// Opens @p fileName, made empty where it is missing, on the default connection. A connection
+    /// that is open is opened anew, which ends every query prepared on it.
+    /// Writes "Open DB fail!" where that fails.
+    void CreateDataBase(const QString &fileName);
+
+    /// Executes @p statement. Silent on failure: at every start but the first the table exists.
+    void CreateDataBaseTable(const QString &statement);
+
+    /// Drops the rows of @p tableName, "PM2_5" or "TempAndHum", that are older than today and the
+    /// six days before it; @p now in Unix seconds. Any other table is left alone.
+    void DeleteDataBaseTimeItem(const QString &tableName, long now);
+
+    /// Deletes nothing: the names never get into its statement, and SQLite rejects it silently.
+    void DeleteDataBaseItem(const QString &tableName, const QString &column, const QString &value);
+
+    /// Diagnostic probe: writes whether the PM2.5 table can be read. Reads no rows.
+    void QueryPm25Values();
+
+public slots:
+    /// Stores one row taken at @p iTimeSec (Unix seconds), unless its values repeat those of the
+    /// last row stored. "PM2_5" takes @p value2; "TempAndHum" takes @p value as temperature and
+    /// @p value2 as humidity; the tables ending in "_NoWiFi" take rows without network only.
+    /// Writes "Insert fail!" where the main table got no row, for whatever reason.
+    void InsertDataBaseItem(time_t iTimeSec, const QString &tableName, int value, int value2);
+
+protected:
+    void run() override;
+
+private:
+    bool networkAvailable();
+
+    std::vector<std::unique_ptr<GetData>> schedulers;
+};
+
+/// The one database of the program. Set by main before the first scheduler is built; null again
+/// once that database is gone.
+extern ZellDatabase *zelldatabase;
