@@ -6,7 +6,13 @@
 
 namespace {
 constexpr std::chrono::milliseconds glideTime{500};
+
+// On the screen: the coordinates of a touched widget that scrolls away would follow the finger.
+int fingerY(QEvent *event)
+{
+    return static_cast<QMouseEvent *>(event)->globalPosition().toPoint().y();
 }
+} // namespace
 
 DragScroll::DragScroll(QWidget *touched, QScrollBar *moved, QObject *parent)
     : QObject(parent)
@@ -26,11 +32,11 @@ bool DragScroll::eventFilter(QObject *watched, QEvent *event)
 
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        pressY = static_cast<QMouseEvent *>(event)->position().toPoint().y();
+        pressY = fingerY(event);
         break;
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
-        glide(static_cast<QMouseEvent *>(event)->position().toPoint().y());
+        glide(fingerY(event));
         break;
     default:
         break;
@@ -38,10 +44,10 @@ bool DragScroll::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-void DragScroll::glide(int fingerY)
+void DragScroll::glide(int y)
 {
     animation.stop();
     animation.setStartValue(scrollBar->value());
-    animation.setEndValue(scrollBar->value() - fingerY + pressY);
+    animation.setEndValue(scrollBar->value() - y + pressY);
     animation.start();
 }

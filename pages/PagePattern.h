@@ -1,22 +1,19 @@
 #pragma once
 
-#include <QPalette>
+#include "pages/Ground.h"
+
 #include <QStackedWidget>
 
 /// Shows @p page above the pages of earlier visits to @p holder, connects its way back to @p goBack
 /// of @p opener and makes @p holder the current page of @p stack.
 ///
 /// The page is shown explicitly, so that it also appears when its holder is on the screen already.
-/// It is filled with the colour of all settings pages; being opaque, it spares the device the
-/// painting of the pages beneath it.
+/// It lies on an opaque ground.
 template <class Page, class Opener>
 void showPage(Page *page, Opener *opener, QStackedWidget *stack, QWidget *holder,
               void (Opener::*goBack)())
 {
-    QPalette colours = page->palette();
-    colours.setColor(QPalette::Window, QColor(33, 33, 33));
-    page->setPalette(colours);
-    page->setAutoFillBackground(true);
+    fillGround(page);
     QObject::connect(page, &Page::signal_backDefaultPage, opener, goBack);
     page->raise();
     page->show();
