@@ -2,6 +2,7 @@
 
 #include "pages/Fonts.h"
 #include "pages/SlideIn.h"
+#include "settings/OptionPage.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -29,6 +30,8 @@ MainWindow::MainWindow(QWidget *parent)
     clock->start(tick);
 
     ui->stackedWidget->setCurrentWidget(ui->page_main);
+    optionPage = new OptionPage(ui->page_option);
+    connect_init();
 }
 
 MainWindow::~MainWindow() = default;
@@ -46,6 +49,11 @@ void MainWindow::font_init()
     substituteFonts();
     for (const QString &family : QFontDatabase::families())
         qDebug() << "add Font:" << family;
+}
+
+void MainWindow::connect_init()
+{
+    connect(optionPage, &OptionPage::signal_back_lastPage, this, &MainWindow::jump_toMainPage);
 }
 
 void MainWindow::time_update()

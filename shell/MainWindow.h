@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <memory>
 
+class OptionPage;
 namespace Ui {
 class MainWindow;
 }
@@ -35,7 +36,9 @@ private slots:
 private:
     void style_setup();
     void font_init();
+    void connect_init();
 
     std::unique_ptr<Ui::MainWindow> ui;
     bool active = true;
+    OptionPage *optionPage;
 };

@@ -1,0 +1,82 @@
+#include "settings/OptionPage.h"
+#include "shell/MainWindow.h"
+#include "tests/support/Environment.h"
+#include "tests/support/MessageLog.h"
+#include "tests/support/Touch.h"
+
+#include <QCheckBox>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QStackedWidget>
+
+class TestOptionPage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        page = std::make_unique<OptionPage>();
+        page->show();
+        scrollBar = page->findChild<QScrollArea *>("scrollArea")->verticalScrollBar();
+    }
+
+    void dragScrollsOverTilesAndGainsSpeed()
+    {
+        QSignalSpy taps(page->findChild<QWidget *>("option_setLocation"), SIGNAL(clicked()));
+        pressAt(page.get(), {200, 360});
+        moveTo(page.get(), {200, 340});
+        QTRY_COMPARE(scrollBar->value(), 20);
+        moveTo(page.get(), {200, 339});
+        QTRY_COMPARE(scrollBar->value(), 41);
+        moveTo(page.get(), {200, 260});
+        QTRY_COMPARE(scrollBar->value(), 141);
+        releaseAt(page.get(), {200, 260});
+        QTRY_COMPARE(scrollBar->value(), scrollBar->maximum());
+        QCOMPARE(taps.size(), 0);
+        drag(page.get(), {600, 100}, {600, 400});
+        QTRY_COMPARE(scrollBar->value(), 0);
+    }
+
+    void unitSwitchMovesTheColourOnly()
+    {
+        scrollBar->setValue(scrollBar->maximum());
+        auto *unit = page->findChild<QCheckBox *>("checkBox_tempture");
+        const auto colours = [this] {
+            return page->findChild<QWidget *>("label_C")->styleSheet() + '|' +
+                   page->findChild<QWidget *>("label_F")->styleSheet();
+        };
+        const QString celsius = "QLabel{font-size:24px;color:#00E5FF;}|"
+                                "QLabel{font-size:24px;color:#FFFFFF;}";
+        QVERIFY(unit->isChecked());
+        QCOMPARE(colours(), celsius);
+        MessageLog log;
+        tap(unit);
+        QCOMPARE(log.lines(), QStringList{"tempture is ℉..."});
+        QCOMPARE(colours(), celsius.section('|', 1) + '|' + celsius.section('|', 0, 0));
+        tap(unit);
+        QCOMPARE(log.lines().last(), "tempture is ℃...");
+        QCOMPARE(colours(), celsius);
+    }
+
+    void backLeadsToTheMainScreen()
+    {
+        MainWindow window;
+        window.show();
+        auto *stack = window.findChild<QStackedWidget *>("stackedWidget");
+        QMetaObject::invokeMethod(&window, "jump_toOption");
+        QTRY_COMPARE(stack->currentWidget()->objectName(), "page_option");
+        auto *menu = window.findChild<OptionPage *>();
+        QVERIFY(menu->isVisible() && menu->is_allowed_slide());
+        tap(visibleChild(menu, "button_back"));
+        QCOMPARE(stack->currentWidget()->objectName(), "page_main");
+    }
+
+private:
+    std::unique_ptr<OptionPage> page;
+    QScrollBar *scrollBar = nullptr;
+};
+
+ZELL_TEST_MAIN(TestOptionPage)
+#include "test_option_page.moc"
