@@ -1,5 +1,7 @@
 #pragma once
 
+#include "acquisition/PM25Uart.h"
+
 #include <QMainWindow>
 #include <memory>
 
@@ -40,5 +42,7 @@ private:
 
     std::unique_ptr<Ui::MainWindow> ui;
     bool active = true;
+    /// Never opened: the line belongs to the schedulers.
+    PM25Uart uart;
     OptionPage *optionPage;
 };

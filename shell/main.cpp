@@ -1,16 +1,27 @@
+#include "acquisition/GetData.h"
 #include "shell/Global_cfg.h"
 #include "shell/Language.h"
 #include "shell/MainWindow.h"
+#include "store/ZellDatabase.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QQuickWindow>
+#include <QTimer>
 #include <QTranslator>
+#include <memory>
 
 int main(int argc, char *argv[])
 {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QApplication application(argc, argv);
+
+    // The measurement side stands before any screen: the database file with its tables exists and
+    // the sampling timers are armed, whatever becomes of the window.
+    const auto database = std::make_unique<ZellDatabase>();
+    zelldatabase = database.get();
+    GetData scheduler;
+    QTimer randUARTSignal;
     Q_INIT_RESOURCE(ZellQt);
 
     g_sLanguage = readLanguageFile(QDir::currentPath());
