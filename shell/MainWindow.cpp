@@ -1,5 +1,7 @@
 #include "shell/MainWindow.h"
 
+#include "mainscreen/BaseScene.h"
+#include "mainscreen/MainView.h"
 #include "pages/Fonts.h"
 #include "pages/SlideIn.h"
 #include "settings/OptionPage.h"
@@ -30,6 +32,7 @@ MainWindow::MainWindow(QWidget *parent)
     clock->start(tick);
 
     ui->stackedWidget->setCurrentWidget(ui->page_main);
+    mainView = new MainView(ui->page_main);
     optionPage = new OptionPage(ui->page_option);
     connect_init();
 }
@@ -53,6 +56,7 @@ void MainWindow::font_init()
 
 void MainWindow::connect_init()
 {
+    connect(mainView->overlay(), &BaseScene::signal_jumpToOption, this, &MainWindow::jump_toOption);
     connect(optionPage, &OptionPage::signal_back_lastPage, this, &MainWindow::jump_toMainPage);
 }
 

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <memory>
 
+class MainView;
 class OptionPage;
 namespace Ui {
 class MainWindow;
@@ -44,5 +45,6 @@ private:
     bool active = true;
     /// Never opened: the line belongs to the schedulers.
     PM25Uart uart;
+    MainView *mainView;
     OptionPage *optionPage;
 };

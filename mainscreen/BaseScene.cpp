@@ -1,0 +1,171 @@
+#include "mainscreen/BaseScene.h"
+
+#include "mainscreen/Transparent.h"
+#include "pages/Ground.h"
+#include "pages/SlideIn.h"
+#include "shell/Global_cfg.h"
+#include "ui_BaseScene.h"
+
+#include <QDebug>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QParallelAnimationGroup>
+#include <QPropertyAnimation>
+#include <algorithm>
+
+namespace {
+constexpr int pmPage = 1;
+constexpr int temperaturePage = 2;
+constexpr int humidityPage = 3;
+/// The page's own logo is a caption, a little darker than the logos of the tiles.
+constexpr qreal logoOpacity = 0.87;
+
+// The picture of the dashes stands lower than a line of text would.
+void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> companions)
+{
+    if (reading != INVALID_READING) {
+        label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        label->setText(QStringLiteral("%1").arg(reading));
+        return;
+    }
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    label->setPixmap(QPixmap(QStringLiteral(":/resource/images/mainPage/num/--.png")));
+    for (QLabel *companion : companions)
+        companion->hide();
+}
+} // namespace
+
+BaseScene::BaseScene(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::BaseScene>())
+{
+    ui->setupUi(this);
+    makeTransparent(this);
+    fillGround(ui->page_history);
+    ownGround = {ui->frame_side,     ui->frame_pm,      ui->frame_temperature,
+                 ui->frame_humidity, ui->frame_history, ui->page_history};
+    animation_init();
+    connect_init();
+}
+
+BaseScene::~BaseScene() = default;
+
+void BaseScene::connect_init()
+{
+    // The clock of the history capsule belongs to the button beside it.
+    connect(ui->button_historyLogo, &QPushButton::clicked, this,
+            &BaseScene::on_button_history_clicked);
+}
+
+// Made at start-up and kept; no motion of the overlay uses them yet.
+void BaseScene::animation_init()
+{
+    auto *together = new QParallelAnimationGroup(this);
+    for (QWidget *frame :
+         std::initializer_list<QWidget *>{ui->frame_side, ui->frame_other, ui->frame_bottom})
+        together->addAnimation(new QPropertyAnimation(frame, "pos"));
+}
+
+void BaseScene::change_currentPage(int page)
+{
+    switch (page) {
+    case pmPage:
+        showTiles(false, true, true);
+        ui->label_unit->show();
+        ui->label_logo->setText(QStringLiteral("PM2.5"));
+        break;
+    case temperaturePage:
+        showTiles(true, false, true);
+        ui->label_unit->hide();
+        showLogo(QStringLiteral("logoTemperature"));
+        break;
+    case humidityPage:
+        showTiles(true, true, false);
+        ui->label_unit->hide();
+        showLogo(QStringLiteral("logoHumidity"));
+        break;
+    default:
+        break;
+    }
+}
+
+void BaseScene::showTiles(bool pm, bool temperature, bool humidity)
+{
+    ui->frame_pm->setVisible(pm);
+    ui->frame_temperature->setVisible(temperature);
+    ui->frame_humidity->setVisible(humidity);
+}
+
+void BaseScene::showLogo(const QString &name)
+{
+    const QPixmap bright(QStringLiteral(":/resource/images/mainPage/logo/%1.png").arg(name));
+    QPixmap logo(bright.size());
+    logo.fill(Qt::transparent);
+    QPainter painter(&logo);
+    painter.setOpacity(logoOpacity);
+    painter.drawPixmap(0, 0, bright);
+    painter.end();
+    ui->label_logo->setPixmap(logo);
+}
+
+void BaseScene::update_pmData(int value)
+{
+    showReading(ui->label_pValue, value, {ui->label_pTips});
+    qDebug("BaseScene update_pmData");
+}
+
+void BaseScene::update_tempData(int value)
+{
+    showReading(ui->label_tValue, value, {ui->label_3, ui->label_tTips});
+}
+
+void BaseScene::update_humData(int value)
+{
+    showReading(ui->label_hValue, value, {ui->label_4, ui->label_hTips});
+}
+
+void BaseScene::mousePressEvent(QMouseEvent *event)
+{
+    // Tiles and buttons hand on what they do not use, so every press that matters arrives here. One
+    // that is not accepted goes to the reading page below.
+    QWidget *touched = childAt(event->position().toPoint());
+    while (touched != nullptr && std::ranges::find(ownGround, touched) == ownGround.end())
+        touched = touched->parentWidget();
+    event->setAccepted(touched != nullptr);
+}
+
+void BaseScene::on_button_option_clicked()
+{
+    emit signal_jumpToOption();
+}
+
+void BaseScene::on_button_history_clicked()
+{
+    connect(slideIn(ui->page_history), &QPropertyAnimation::finished, this,
+            &BaseScene::anHistory_finished);
+}
+
+void BaseScene::on_frame_pm_clicked()
+{
+    emit signal_jumpPage(pmPage);
+}
+
+void BaseScene::on_frame_temperature_clicked()
+{
+    emit signal_jumpPage(temperaturePage);
+}
+
+void BaseScene::on_frame_humidity_clicked()
+{
+    emit signal_jumpPage(humidityPage);
+}
+
+void BaseScene::jump_scenePage()
+{
+    ui->stackedWidget->setCurrentWidget(ui->page_scene);
+}
+
+void BaseScene::anHistory_finished()
+{
+    ui->stackedWidget->setCurrentWidget(ui->page_history);
+}

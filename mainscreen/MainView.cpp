@@ -1,0 +1,174 @@
+#include "mainscreen/MainView.h"
+
+#include "acquisition/GetData.h"
+#include "mainscreen/BaseScene.h"
+#include "mainscreen/HumidityPage.h"
+#include "mainscreen/PmPage.h"
+#include "mainscreen/StripGeometry.h"
+#include "mainscreen/TemperaturePage.h"
+
+#include <QGraphicsPixmapItem>
+#include <QGraphicsProxyWidget>
+#include <QPixmapCache>
+#include <QTimeLine>
+#include <algorithm>
+#include <chrono>
+
+namespace {
+using namespace std::chrono_literals;
+
+constexpr QSize screenSize{854, 480};
+constexpr qreal backgroundLevel = 0;
+constexpr qreal pageLevel = 2;
+constexpr qreal overlayLevel = 3;
+constexpr int firstFrame = -1000;
+constexpr int firstPage = 2;
+constexpr std::chrono::milliseconds slideTime = 500ms;
+constexpr std::chrono::milliseconds tick = 16ms;
+/// In KB. The images of four proxies of the screen's size and every picture of the program share
+/// this cache; an image that falls out of it is drawn anew in every frame.
+constexpr int pictureMemory = 32 * 1024;
+} // namespace
+
+MainView::MainView(QWidget *parent)
+    : QGraphicsView(parent)
+{
+    setObjectName(QStringLiteral("MainView"));
+    resize(screenSize);
+    setScene(&graphicsScene);
+    scheduler = new GetData(this);
+    scene_init();
+    connect_init();
+    animation_init();
+}
+
+MainView::~MainView() = default;
+
+BaseScene *MainView::overlay() const
+{
+    return baseScene;
+}
+
+void MainView::scene_init()
+{
+    // A fixed rectangle: the scene would grow with the strip and take the view along.
+    setSceneRect(QRectF(QPointF(0, 0), screenSize));
+    centerOn(width() / 2.0, height() / 2.0);
+    setWindowFlag(Qt::FramelessWindowHint);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(QFrame::NoFrame);
+    setBackgroundBrush(QColor(0x07, 0x0b, 0x0e));
+    setOptimizationFlags(DontSavePainterState | DontAdjustForAntialiasing);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    QPixmapCache::setCacheLimit(std::max(QPixmapCache::cacheLimit(), pictureMemory));
+
+    pmPage = new PmPage;
+    temperaturePage = new TemperaturePage;
+    humidityPage = new HumidityPage;
+    baseScene = new BaseScene;
+    for (QWidget *page : std::initializer_list<QWidget *>{pmPage, temperaturePage, humidityPage})
+        pages.append(addCached(page, pageLevel));
+    addCached(baseScene, overlayLevel);
+    background = graphicsScene.addPixmap(
+        QPixmap(QStringLiteral(":/resource/images/mainPage/backgroud/backgroudMain.png")));
+    background->setZValue(backgroundLevel);
+    graphicsScene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    gridPoints = {{0, 0}, {1, 0}, {2, 0}};
+
+    change_page(firstFrame);
+    baseScene->change_currentPage(firstPage);
+    currentPage = firstPage;
+}
+
+QGraphicsProxyWidget *MainView::addCached(QWidget *widget, qreal z)
+{
+    QGraphicsProxyWidget *proxy = graphicsScene.addWidget(widget);
+    proxy->setZValue(z);
+    proxy->setCacheMode(QGraphicsItem::ItemCoordinateCache);
+    return proxy;
+}
+
+void MainView::connect_init()
+{
+    for (BaseValue *page :
+         std::initializer_list<BaseValue *>{pmPage, temperaturePage, humidityPage}) {
+        connect(page, &BaseValue::signal_slideRight, this, &MainView::slide_right);
+        connect(page, &BaseValue::signal_slideLeft, this, &MainView::slide_left);
+    }
+    connect(baseScene, &BaseScene::signal_jumpPage, this, &MainView::choose_page);
+    connect(scheduler, &GetData::signal_updatePMData, pmPage, &PmPage::update_currentData);
+    connect(scheduler, &GetData::signal_updateTempData, temperaturePage,
+            &TemperaturePage::update_currentData);
+    connect(scheduler, &GetData::signal_updateHumData, humidityPage,
+            &HumidityPage::update_currentData);
+    connect(scheduler, &GetData::signal_updatePMData, baseScene, &BaseScene::update_pmData);
+    connect(scheduler, &GetData::signal_updateTempData, baseScene, &BaseScene::update_tempData);
+    connect(scheduler, &GetData::signal_updateHumData, baseScene, &BaseScene::update_humData);
+}
+
+void MainView::animation_init()
+{
+    timeLine = new QTimeLine(int(slideTime.count()), this);
+    timeLine->setUpdateInterval(int(tick.count()));
+    timeLine->setEasingCurve(QEasingCurve::Linear);
+    connect(timeLine, &QTimeLine::frameChanged, this, &MainView::change_page);
+}
+
+void MainView::slide(int pageCount)
+{
+    timeLine->setFrameRange(strip::frameAt(position), strip::frameAt(position + float(pageCount)));
+    timeLine->start();
+}
+
+void MainView::slide_show(SlideDirection direction)
+{
+    if (direction == SlideDirection::Right)
+        slide_right();
+    else
+        slide_left();
+}
+
+void MainView::slide_right()
+{
+    if (timeLine->state() != QTimeLine::NotRunning || !strip::hasNext(position))
+        return;
+    slide(-1);
+    ++currentPage;
+    baseScene->change_currentPage(currentPage);
+}
+
+void MainView::slide_left()
+{
+    if (timeLine->state() != QTimeLine::NotRunning || !strip::hasPrevious(position))
+        return;
+    slide(1);
+    --currentPage;
+    baseScene->change_currentPage(currentPage);
+}
+
+void MainView::choose_page(int page)
+{
+    if (timeLine->state() != QTimeLine::NotRunning)
+        return;
+    if (const std::optional<int> pageCount = strip::slideToChosen(position, page))
+        slide(*pageCount);
+}
+
+void MainView::change_page(int frame)
+{
+    position = float(frame) / strip::framesPerPage;
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        const QPointF grid = gridPoints.at(i);
+        pages.at(i)->setPos(strip::pageX(int(grid.x()), position, width()), height() * grid.y());
+    }
+    background->setPos(strip::backgroundX(position, width(), background->pixmap().width()), 0);
+}
+
+void MainView::drawBackground(QPainter *painter, const QRectF &rect)
+{
+    const QRegion bare =
+        QRegion(rect.toAlignedRect()) - background->sceneBoundingRect().toAlignedRect();
+    for (const QRect &part : bare)
+        QGraphicsView::drawBackground(painter, part);
+}

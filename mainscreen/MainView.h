@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QList>
+#include <QPointF>
+
+class BaseScene;
+class GetData;
+class HumidityPage;
+class PmPage;
+class QGraphicsPixmapItem;
+class QGraphicsProxyWidget;
+class QTimeLine;
+class TemperaturePage;
+
+/// The main screen: three reading pages on a strip that slides over a wide background, and the
+/// overlay above them. Owns the scheduler that feeds them. GUI thread.
+class MainView : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    enum class SlideDirection { Left = 1, Right = 2 };
+
+    explicit MainView(QWidget *parent = nullptr);
+    ~MainView() override;
+
+    /// The overlay, whose signal_jumpToOption() asks for the settings.
+    BaseScene *overlay() const;
+
+    /// Starts a slide by @p pages; negative is towards higher page numbers.
+    void slide(int pages);
+    void slide_show(SlideDirection direction);
+
+protected slots:
+    /// The next / previous page. Ignored while a slide runs and at the ends.
+    void slide_right();
+    void slide_left();
+    /// A tile was tapped. Ignored while a slide runs; see strip::slideToChosen().
+    void choose_page(int page);
+
+protected:
+    /// Paints the brush only where the background picture does not lie.
+    void drawBackground(QPainter *painter, const QRectF &rect) override;
+
+private slots:
+    void change_page(int frame);
+
+private:
+    void scene_init();
+    void connect_init();
+    void animation_init();
+    QGraphicsProxyWidget *addCached(QWidget *widget, qreal z);
+
+    QGraphicsScene graphicsScene;
+    QTimeLine *timeLine = nullptr;
+    float position = 0;
+    PmPage *pmPage = nullptr;
+    TemperaturePage *temperaturePage = nullptr;
+    HumidityPage *humidityPage = nullptr;
+    BaseScene *baseScene = nullptr;
+    QList<QGraphicsProxyWidget *> pages;
+    QList<QPointF> gridPoints;
+    QGraphicsPixmapItem *background = nullptr;
+    GetData *scheduler = nullptr;
+    int currentPage = 1;
+};

@@ -1,0 +1,39 @@
+#include "mainscreen/StripGeometry.h"
+
+namespace strip {
+
+int frameAt(float position)
+{
+    return int(position * framesPerPage);
+}
+
+int pageX(int gridX, float position, int viewWidth)
+{
+    return viewWidth * gridX + int(position * float(viewWidth));
+}
+
+int backgroundX(float position, int viewWidth, int pictureWidth)
+{
+    const int margin = pictureWidth / 2 - viewWidth / 2 - viewWidth / 5;
+    return -int(margin - viewWidth * double(position) / 5.0);
+}
+
+bool hasNext(float position)
+{
+    constexpr int lastPage = 2;
+    return int(-(position - 1)) <= lastPage;
+}
+
+bool hasPrevious(float position)
+{
+    return position < 0;
+}
+
+std::optional<int> slideToChosen(float position, int page)
+{
+    if (int(-position) == page)
+        return std::nullopt;
+    return int(float(-page) - position);
+}
+
+} // namespace strip
