@@ -13,6 +13,8 @@ void lightCaptions(bool checked, QWidget *off, QWidget *on)
 
 void captionSwitch(QCheckBox *box, QWidget *off, QWidget *on)
 {
+    for (QWidget *caption : {off, on})
+        caption->setAttribute(Qt::WA_TransparentForMouseEvents);
     lightCaptions(box->isChecked(), off, on);
     QObject::connect(box, &QCheckBox::toggled, box,
                      [off, on](bool checked) { lightCaptions(checked, off, on); });

@@ -2,6 +2,8 @@
 
 #include "pages/DragScroll.h"
 #include "pages/PagePattern.h"
+#include "settings/SetTimePage.h"
+#include "settings/nightModePage.h"
 #include "ui_OptionPage.h"
 
 #include <QDebug>
@@ -63,9 +65,15 @@ bool OptionPage::is_allowed_slide()
 
 void OptionPage::jump_setWifi_page() {}
 
-void OptionPage::jump_setTime_page() {}
+void OptionPage::jump_setTime_page()
+{
+    open<SetTimePage>(ui->page_setTime);
+}
 
-void OptionPage::jump_setNightPatternSlt() {}
+void OptionPage::jump_setNightPatternSlt()
+{
+    open<nightModePage>(ui->page_nightMode);
+}
 
 void OptionPage::jump_adjustLight_page() {}
 

@@ -1,0 +1,53 @@
+#include "settings/DateTimePage.h"
+
+#include "ui_DateTimePage.h"
+
+#include <QTime>
+
+DateTimePage *DateTimePage::instance = nullptr;
+
+DateTimePage::DateTimePage(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::DateTimePage>())
+{
+    ui->setupUi(this);
+}
+
+DateTimePage::~DateTimePage()
+{
+    if (instance == this)
+        instance = nullptr;
+}
+
+void DateTimePage::Set24Hour(bool use)
+{
+    is24Hour = use;
+}
+
+void DateTimePage::list_init()
+{
+    placeSpinners();
+    loadSpinner(ui->widget_date, QStringLiteral("date"), 0);
+    timeSpinners().load(is24Hour, QTime::currentTime());
+    ui->widget_date->setFocus();
+    update();
+}
+
+void DateTimePage::placeSpinners()
+{
+    ui->widget_date->move(is24Hour ? 88 : 12, ui->widget_date->y());
+    ui->widget_hour->move(is24Hour ? 452 : 362, ui->widget_hour->y());
+    ui->widget_min->move(is24Hour ? 612 : 512, ui->widget_min->y());
+}
+
+TimeSpinners DateTimePage::timeSpinners() const
+{
+    return {ui->widget_hour, ui->widget_min, ui->widget_amp};
+}
+
+void DateTimePage::on_button_back_clicked()
+{
+    ui->widget_date->hide();
+    timeSpinners().hide();
+    emit signal_backDefaultPage();
+}

@@ -1,0 +1,57 @@
+#include "settings/SetTimePage.h"
+
+#include "pages/PagePattern.h"
+#include "pages/SwitchCaptions.h"
+#include "settings/DateTimePage.h"
+#include "ui_SetTimePage.h"
+
+#include <QDateTime>
+#include <QLocale>
+#include <array>
+
+namespace {
+/// How the present moment is shown: with 24 hours, with 12 hours.
+const std::array<QString, 2> displayFormats = {QStringLiteral("yyyy-MM-dd HH:mm"),
+                                               QStringLiteral("yyyy-MM-dd hh:mm AP")};
+} // namespace
+
+SetTimePage::SetTimePage(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::SetTimePage>())
+{
+    ui->setupUi(this);
+    captionSwitch(ui->checkBox_24Hours, ui->button_close, ui->button_on);
+    captionSwitch(ui->checkBox_AutoGetTime, ui->button_close_2, ui->button_on_2);
+}
+
+SetTimePage::~SetTimePage() = default;
+
+void SetTimePage::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    const QString &format = displayFormats[ui->checkBox_24Hours->isChecked() ? 0 : 1];
+    const QString now = QDateTime::currentDateTime().toString(format);
+    // A new text paints the button, and with it this page: an unchanged one must not.
+    if (ui->button_currentDateTime->text() != now)
+        ui->button_currentDateTime->setText(now);
+}
+
+void SetTimePage::on_button_dateTime_clicked()
+{
+    auto *page = singlePage<DateTimePage>(ui->page_dateTime);
+    page->Set24Hour(ui->checkBox_24Hours->isChecked());
+    page->list_init();
+    showPage(page, this, ui->stackedWidget, ui->page_dateTime, &SetTimePage::back_default_page);
+}
+
+void SetTimePage::on_button_timeZone_clicked() {}
+
+void SetTimePage::back_default_page()
+{
+    ui->stackedWidget->setCurrentWidget(ui->frame_default);
+}
+
+void SetTimePage::on_button_back_clicked()
+{
+    emit signal_backDefaultPage();
+}

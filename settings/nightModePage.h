@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class nightModePage;
+}
+
+/// Night mode: a switch and, while it is on, the rows of its start and finish time.
+///
+/// A display only: neither the switch nor a time is stored or acted upon. GUI thread.
+class nightModePage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit nightModePage(QWidget *parent = nullptr);
+    ~nightModePage() override;
+
+signals:
+    void signal_backDefaultPage();
+
+private slots:
+    void on_button_back_clicked();
+    /// Shows the two time rows while the switch is on.
+    void SetTimeControlHideSlt();
+    void on_button_startTime_clicked();
+    void on_button_finishTime_clicked();
+    /// The moon beside the switch is a sign: a tap on it changes nothing.
+    void on_button_setNightMode_clicked() {}
+    void back_default_page();
+
+private:
+    void openTimePage();
+
+    std::unique_ptr<Ui::nightModePage> ui;
+};
