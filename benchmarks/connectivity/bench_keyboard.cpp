@@ -1,0 +1,78 @@
+#include "benchmarks/support/Yardstick.h"
+#include "connectivity/KeyBorad.h"
+#include "pages/Ground.h"
+#include "tests/support/Touch.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QLineEdit>
+#include <QTest>
+
+namespace {
+// A page with a keyboard, as its hosts are built.
+struct Host
+{
+    Host()
+    {
+        page.resize(854, 480);
+        fillGround(&page);
+        auto *container = new QFrame(&page);
+        container->resize(page.size());
+        line.setGeometry(71, 100, 712, 48);
+        line.setEchoMode(QLineEdit::Password);
+        new KeyBorad(container);
+        page.show();
+        if (!QTest::qWaitForWindowExposed(&page))
+            qFatal("no window");
+        tapAt(&page, key);
+        repaint();
+    }
+
+    static void repaint()
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+
+    static constexpr QPoint key{427, 326};
+    QWidget page;
+    QLineEdit line{&page};
+};
+
+// From the finger on the glass to the key and its enlarged label on the screen.
+void keyPress(benchmark::State &state)
+{
+    Host host;
+    Yardstick::measure(
+        state, 3,
+        [&host] {
+            pressAt(&host.page, Host::key);
+            Host::repaint();
+        },
+        [&host] {
+            releaseAt(&host.page, Host::key);
+            host.line.clear();
+            Host::repaint();
+        });
+}
+
+// From lifting the finger to the letter on the screen.
+void keyRelease(benchmark::State &state)
+{
+    Host host;
+    Yardstick::measure(
+        state, 3,
+        [&host] {
+            releaseAt(&host.page, Host::key);
+            Host::repaint();
+        },
+        [&host] {
+            host.line.setText(QStringLiteral("12345678"));
+            pressAt(&host.page, Host::key);
+            Host::repaint();
+        });
+}
+} // namespace
+
+BENCHMARK(keyPress)->UseManualTime()->Iterations(500);
+BENCHMARK(keyRelease)->UseManualTime()->Iterations(500);

@@ -1,0 +1,117 @@
+#include "connectivity/KeyButton.h"
+
+#include <QEvent>
+#include <QMap>
+#include <QPainter>
+
+/// How a kind of key looks; the pictures fill the whole cell.
+struct KeyLook
+{
+    QPixmap normal;
+    QPixmap pressed;
+    QColor text;
+
+    static const KeyLook &of(KeyKind kind);
+};
+
+namespace {
+constexpr QColor accent(0x00, 0xe5, 0xff);
+constexpr QColor caption(255, 255, 255, 180);
+constexpr QColor pressedText(33, 33, 33);
+constexpr QSize iconSizeOfKeys(32, 32);
+
+const QFont &keyFont()
+{
+    static const QFont font = [] {
+        QFont family(QStringLiteral("Helvetica"));
+        family.setPixelSize(24);
+        return family;
+    }();
+    return font;
+}
+
+QPixmap picture(const char *name)
+{
+    return QPixmap(
+        QStringLiteral(":/resource/images/optionPage/keyboard/%1.png").arg(QLatin1String(name)));
+}
+
+QPixmap characterPlate()
+{
+    constexpr QRect cell(0, 0, 84, 60);
+    QPixmap plate(cell.size());
+    plate.fill(Qt::transparent);
+    QPainter painter(&plate);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 255, 255, 22));
+    painter.drawRoundedRect(cell.adjusted(3, 3, -3, -3), 9, 9);
+    return plate;
+}
+} // namespace
+
+const KeyLook &KeyLook::of(KeyKind kind)
+{
+    static const QPixmap shiftNormal = picture("shiftNormal");
+    static const QPixmap shiftHover = picture("shiftHover");
+    static const QPixmap enterNormal = picture("enterNormal");
+    static const QPixmap enterHover = picture("enterHover");
+    static const QMap<KeyKind, KeyLook> looks{
+        {KeyKind::Character, {characterPlate(), picture("keyboard Press"), Qt::white}},
+        {KeyKind::Shift, {shiftNormal, shiftHover, Qt::white}},
+        {KeyKind::ShiftOn, {shiftHover, shiftNormal, Qt::white}},
+        {KeyKind::Delete, {shiftNormal, shiftHover, Qt::white}},
+        {KeyKind::Function, {enterNormal, enterHover, Qt::white}},
+        {KeyKind::Blank, {picture("blankNormal"), picture("blankHover"), caption}},
+        {KeyKind::Enter, {enterNormal, enterHover, accent}},
+    };
+    return *looks.constFind(kind);
+}
+
+KeyButton::KeyButton(KeyKind kind, QWidget *parent)
+    : QPushButton(parent)
+    , look(KeyLook::of(kind))
+{
+    setFocusPolicy(Qt::NoFocus);
+    setIconSize(iconSizeOfKeys);
+    // The constructor of QPushButton has already asked the style for a metric, and the style sheet
+    // keeps what it looked up until it hears that the widget is gone.
+    emit destroyed(this);
+}
+
+bool KeyButton::event(QEvent *event)
+{
+    // Polishing is where the style sheet would get hold of the key.
+    return event->type() == QEvent::Polish || QPushButton::event(event);
+}
+
+bool KeyButton::hitButton(const QPoint &position) const
+{
+    return rect().contains(position);
+}
+
+void KeyButton::hideEvent(QHideEvent *event)
+{
+    // A key that goes while it is held down gets no release any more.
+    if (isDown()) {
+        setDown(false);
+        emit released();
+    }
+    QPushButton::hideEvent(event);
+}
+
+void KeyButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, isDown() ? look.pressed : look.normal);
+    if (!icon().isNull()) {
+        QRect area(QPoint(), iconSize());
+        area.moveCenter(rect().center());
+        icon().paint(&painter, area);
+    }
+    if (text().isEmpty())
+        return;
+    painter.setFont(keyFont());
+    painter.setPen(isDown() ? pressedText : look.text);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic, text());
+}

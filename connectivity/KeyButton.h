@@ -1,0 +1,29 @@
+#pragma once
+
+#include "connectivity/KeyLayout.h"
+
+#include <QPushButton>
+
+struct KeyLook;
+
+/// A key of the on-screen keyboard.
+///
+/// It paints itself instead of asking the style sheet: a keyboard has over a hundred keys and is
+/// built anew for every visit, and each widget known to a style sheet costs 10 KB and a search of
+/// all rules. It never takes the focus, as every press would then repaint a second key. GUI thread.
+class KeyButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    KeyButton(KeyKind kind, QWidget *parent);
+
+protected:
+    bool event(QEvent *event) override;
+    bool hitButton(const QPoint &position) const override;
+    void hideEvent(QHideEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const KeyLook &look;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QList>
+#include <QRect>
+#include <QString>
+
+/// The three faces of the on-screen keyboard.
+enum class KeyPage { Lowercase, Uppercase, Symbol };
+
+/// What a key does, and with it how it looks.
+enum class KeyKind { Character, Shift, ShiftOn, Delete, Function, Blank, Enter };
+
+/// One key and where it lies.
+struct KeyPlace
+{
+    KeyKind kind;
+    /// Name of a wide key's button ("button_delete_2"); empty for a key that types its own text.
+    QString objectName;
+    /// Source text of the label, not translated. A wide key with an icon has none.
+    QString text;
+    /// The whole cell in the coordinates of the keyboard, in px. Cells of a row abut.
+    QRect area;
+};
+
+/// Every key of @p page, row by row from the top left.
+QList<KeyPlace> keyPlaces(KeyPage page);
