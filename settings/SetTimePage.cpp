@@ -3,6 +3,7 @@
 #include "pages/PagePattern.h"
 #include "pages/SwitchCaptions.h"
 #include "settings/DateTimePage.h"
+#include "settings/TimeZonePage.h"
 #include "ui_SetTimePage.h"
 
 #include <QDateTime>
@@ -44,7 +45,11 @@ void SetTimePage::on_button_dateTime_clicked()
     showPage(page, this, ui->stackedWidget, ui->page_dateTime, &SetTimePage::back_default_page);
 }
 
-void SetTimePage::on_button_timeZone_clicked() {}
+void SetTimePage::on_button_timeZone_clicked()
+{
+    showPage(singlePage<TimeZonePage>(ui->page_timeZone), this, ui->stackedWidget,
+             ui->page_timeZone, &SetTimePage::back_default_page);
+}
 
 void SetTimePage::back_default_page()
 {

@@ -5,6 +5,7 @@
 #include "tests/support/Touch.h"
 
 #include <QCheckBox>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -20,6 +21,40 @@ private slots:
         page = std::make_unique<OptionPage>();
         page->show();
         scrollBar = page->findChild<QScrollArea *>("scrollArea")->verticalScrollBar();
+    }
+
+    void tileOpensAFreshPageAndComesBack_data()
+    {
+        QTest::addColumn<QString>("holder");
+        QTest::addColumn<QString>("pageClass");
+        QTest::newRow("option_frame_nightPattern") << "page_nightMode"
+                                                   << "nightModePage";
+        QTest::newRow("option_setTime") << "page_setTime"
+                                        << "SetTimePage";
+    }
+
+    void tileOpensAFreshPageAndComesBack()
+    {
+        QFETCH(QString, holder);
+        auto *stack = page->findChild<QStackedWidget *>("stackedWidget");
+        auto *tile = page->findChild<QWidget *>(QTest::currentDataTag());
+        QWidget *former = nullptr;
+        for (int visit = 1; visit <= 2; ++visit) {
+            scrollBar->setValue(tile->y());
+            tap(tile);
+            QCOMPARE(stack->currentWidget()->objectName(), holder);
+            QVERIFY(!page->is_allowed_slide());
+            const auto visits = stack->currentWidget()->findChildren<QWidget *>(
+                QString(), Qt::FindDirectChildrenOnly);
+            QCOMPARE(visits.size(), visit);
+            QTEST(QString(visits.last()->metaObject()->className()), "pageClass");
+            QVERIFY(visits.last() != former);
+            QVERIFY(visits.last()->isAncestorOf(page->childAt(400, 300)) ||
+                    visits.last() == page->childAt(400, 300));
+            former = visits.last();
+            tap(former->findChild<QPushButton *>("button_back"));
+            QVERIFY(page->is_allowed_slide());
+        }
     }
 
     void dragScrollsOverTilesAndGainsSpeed()

@@ -1,0 +1,76 @@
+#include "settings/TimeZonePage.h"
+
+#include "pages/DragScroll.h"
+#include "settings/TimeZoneItemDelegate.h"
+#include "ui_TimeZonePage.h"
+
+#include <QFile>
+#include <QScrollBar>
+#include <QTextStream>
+
+namespace {
+constexpr int rowHeight = 120;
+constexpr int zoneWidth = 706;
+constexpr int checkMarkWidth = 148;
+} // namespace
+
+TimeZonePage *TimeZonePage::instance = nullptr;
+
+TimeZonePage::TimeZonePage(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::TimeZonePage>())
+{
+    ui->setupUi(this);
+    readZones();
+    fillTable();
+    new DragScroll(ui->tableWidget_timeZone->viewport(),
+                   ui->tableWidget_timeZone->verticalScrollBar(), this);
+}
+
+TimeZonePage::~TimeZonePage()
+{
+    if (instance == this)
+        instance = nullptr;
+}
+
+void TimeZonePage::readZones()
+{
+    QFile file(QStringLiteral(":resource/TimeZone.txt"));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    QTextStream stream(&file);
+    while (!stream.atEnd())
+        zones.append(stream.readLine());
+}
+
+void TimeZonePage::fillTable()
+{
+    QTableWidget *table = ui->tableWidget_timeZone;
+    table->setRowCount(int(zones.size()));
+    table->setColumnCount(2);
+    table->setItemDelegate(new TimeZoneItemDelegate(
+        QPixmap(QStringLiteral("://resource/images/optionPage/checked.png")), this));
+    for (int row = 0; row < zones.size(); ++row) {
+        table->setRowHeight(row, rowHeight);
+        table->setItem(row, 0, new QTableWidgetItem(zones.at(row)));
+        table->setItem(row, 1, new QTableWidgetItem(QStringLiteral("0")));
+    }
+    table->setColumnWidth(0, zoneWidth);
+    table->setColumnWidth(1, checkMarkWidth);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+}
+
+void TimeZonePage::on_button_back_clicked()
+{
+    emit signal_backDefaultPage();
+}
+
+void TimeZonePage::on_tableWidget_timeZone_cellDoubleClicked(int row, int /*column*/)
+{
+    chosenRow = row;
+    for (int other = 0; other < ui->tableWidget_timeZone->rowCount(); ++other) {
+        ui->tableWidget_timeZone->item(other, 1)->setText(other == chosenRow ? QStringLiteral("1")
+                                                                             : QStringLiteral("0"));
+    }
+}
