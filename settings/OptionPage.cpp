@@ -3,6 +3,7 @@
 #include "pages/DragScroll.h"
 #include "pages/PagePattern.h"
 #include "settings/SetTimePage.h"
+#include "settings/adjustLight.h"
 #include "settings/nightModePage.h"
 #include "ui_OptionPage.h"
 
@@ -75,7 +76,10 @@ void OptionPage::jump_setNightPatternSlt()
     open<nightModePage>(ui->page_nightMode);
 }
 
-void OptionPage::jump_adjustLight_page() {}
+void OptionPage::jump_adjustLight_page()
+{
+    open<adjustLight>(ui->page_adjustLight);
+}
 
 void OptionPage::jump_setLanguage_page() {}
 

@@ -27,6 +27,8 @@ private slots:
     {
         QTest::addColumn<QString>("holder");
         QTest::addColumn<QString>("pageClass");
+        QTest::newRow("option_adjustLight") << "page_adjustLight"
+                                            << "adjustLight";
         QTest::newRow("option_frame_nightPattern") << "page_nightMode"
                                                    << "nightModePage";
         QTest::newRow("option_setTime") << "page_setTime"
