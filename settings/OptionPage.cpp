@@ -5,6 +5,7 @@
 #include "settings/SetTimePage.h"
 #include "settings/adjustLight.h"
 #include "settings/nightModePage.h"
+#include "settings/setLanguagePage.h"
 #include "ui_OptionPage.h"
 
 #include <QDebug>
@@ -81,7 +82,10 @@ void OptionPage::jump_adjustLight_page()
     open<adjustLight>(ui->page_adjustLight);
 }
 
-void OptionPage::jump_setLanguage_page() {}
+void OptionPage::jump_setLanguage_page()
+{
+    open<setLanguagePage>(ui->page_setLanguage);
+}
 
 void OptionPage::jump_setLocation_page() {}
 

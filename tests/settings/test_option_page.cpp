@@ -33,6 +33,8 @@ private slots:
                                                    << "nightModePage";
         QTest::newRow("option_setTime") << "page_setTime"
                                         << "SetTimePage";
+        QTest::newRow("option_frame_language") << "page_setLanguage"
+                                               << "setLanguagePage";
     }
 
     void tileOpensAFreshPageAndComesBack()
