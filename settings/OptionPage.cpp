@@ -2,6 +2,7 @@
 
 #include "pages/DragScroll.h"
 #include "pages/PagePattern.h"
+#include "settings/Factory_Reset.h"
 #include "settings/SetTimePage.h"
 #include "settings/adjustLight.h"
 #include "settings/nightModePage.h"
@@ -93,7 +94,10 @@ void OptionPage::jump_connectApp_page() {}
 
 void OptionPage::jump_updateFirmware_page() {}
 
-void OptionPage::jump_resetFactory_page() {}
+void OptionPage::jump_resetFactory_page()
+{
+    open<Factory_Reset>(ui->page_resetFactory);
+}
 
 void OptionPage::back_default_page()
 {

@@ -2,6 +2,7 @@
 #include "shell/MainWindow.h"
 #include "tests/support/Environment.h"
 #include "tests/support/MessageLog.h"
+#include "tests/support/PictureCompare.h"
 #include "tests/support/Touch.h"
 
 #include <QCheckBox>
@@ -35,6 +36,8 @@ private slots:
                                         << "SetTimePage";
         QTest::newRow("option_frame_language") << "page_setLanguage"
                                                << "setLanguagePage";
+        QTest::newRow("option_resetFactory") << "page_resetFactory"
+                                             << "Factory_Reset";
     }
 
     void tileOpensAFreshPageAndComesBack()
@@ -59,6 +62,38 @@ private slots:
             tap(former->findChild<QPushButton *>("button_back"));
             QVERIFY(page->is_allowed_slide());
         }
+    }
+
+    void pagesLookAsDrawn_data()
+    {
+        QTest::addColumn<QString>("jump");
+        for (const char *name :
+             {"back_default", "jump_adjustLight", "jump_setLanguage", "jump_resetFactory"})
+            QTest::newRow(name) << QString(name) + "_page";
+    }
+
+    void pagesLookAsDrawn()
+    {
+        QFETCH(QString, jump);
+        QMetaObject::invokeMethod(page.get(), qPrintable(jump));
+        const QString problem =
+            pictureDifference(page->grab().toImage(), ZELL_REFERENCE_DIR, jump + ".png");
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    }
+
+    void confirmationOfTheResetStays()
+    {
+        QMetaObject::invokeMethod(page.get(), "jump_resetFactory_page");
+        tapAt(page.get(), {427, 388});
+        MessageLog log;
+        tapAt(page.get(), {567, 318});
+        QCOMPARE(log.lines(), QStringList{"start factory reset..."});
+        QVERIFY(visibleChild(page.get(), "FactoryReset_Confirm"));
+        tapAt(page.get(), {287, 318});
+        QVERIFY(!visibleChild(page.get(), "FactoryReset_Confirm"));
+        QVERIFY(visibleChild(page.get(), "label_factoryReset"));
+        tapAt(page.get(), {427, 388});
+        QCOMPARE(page->findChildren<QWidget *>("FactoryReset_Confirm").size(), 2);
     }
 
     void dragScrollsOverTilesAndGainsSpeed()
