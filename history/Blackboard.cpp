@@ -1,0 +1,280 @@
+#include "history/Blackboard.h"
+
+#include <QDebug>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QTimeLine>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace {
+constexpr std::chrono::milliseconds revealTime{1000};
+constexpr int daysOfWeek = 7;
+
+QString unitOf(int type)
+{
+    switch (type) {
+    case 1:
+        return QStringLiteral("μg/m³");
+    case 2:
+        return QStringLiteral("℃");
+    default:
+        return QStringLiteral("%");
+    }
+}
+} // namespace
+
+Blackboard::Blackboard(QWidget *parent, LocalTime::Clock currentTime)
+    : QWidget(parent)
+    , clock(std::move(currentTime))
+    , timeLine(new QTimeLine(int(revealTime.count()), this))
+{
+    timeLine->setFrameRange(0, int(revealTime.count()));
+    connect(timeLine, &QTimeLine::frameChanged, this, &Blackboard::timeLineFrameChanged);
+}
+
+PmColorGenerator &Blackboard::gc()
+{
+    static PmColorGenerator generator;
+    return generator;
+}
+
+void Blackboard::setValueMap(const QMap<int, float> &map, int newType)
+{
+    type = newType;
+    valueMap = map;
+    const auto removed = valueMap.removeIf(
+        [](QMap<int, float>::iterator reading) { return std::isnan(reading.value()); });
+    if (removed > 0)
+        qDebug() << "Blackboard: left out" << removed << "readings that are no numbers";
+    ranges = valueRangesOf(valueMap, LocalTime::startOfDay(clock()), valueDivisions);
+    ++series;
+    plotBottom = plotTop = -1;
+    times.clear();
+    screenXs.clear();
+    update();
+}
+
+std::pair<qint64, qint64> Blackboard::getDayTimeRange(CurrentDay wanted) const
+{
+    const qint64 today = LocalTime::startOfDay(clock());
+    const qint64 tomorrow = today + LocalTime::secondsPerDay;
+    if (mode == twentyFourHours)
+        return {today, tomorrow};
+    if (wanted == wholeWeek)
+        return {tomorrow - daysOfWeek * LocalTime::secondsPerDay, tomorrow};
+    return {today - wanted * LocalTime::secondsPerDay,
+            tomorrow - wanted * LocalTime::secondsPerDay};
+}
+
+bool Blackboard::is0oclock(int t)
+{
+    return LocalTime::secondOfDay(t) != 0;
+}
+
+void Blackboard::isCurrentDay(int) {}
+
+float Blackboard::timeXToScreenX(float time, bool isLocal) const
+{
+    const qint64 whole = std::isfinite(time) ? qint64(std::clamp(time, -1e15F, 1e15F)) : 0;
+    const ChartScale::Times scale{leftMargin, pxPerHour, pxPerSecond};
+    return scale.toX(isLocal ? whole - LocalTime::secondsAheadOfUtc : whole);
+}
+
+float Blackboard::valueYToScreenY(float value) const
+{
+    return offsetY + value * scaleY;
+}
+
+float Blackboard::screenYToValueY(float y) const
+{
+    return ChartScale::Values{plotBottom, plotTop, scaleY, offsetY}.toValue(y);
+}
+
+int Blackboard::searchNearestTime(float time)
+{
+    resetTimeLine();
+    return nearestTime(times, time);
+}
+
+int Blackboard::searchNearestScreenX(float x, bool returnTime)
+{
+    resetTimeLine();
+    const NearestDot dot = nearestTo(x);
+    qDebug().noquote() << QString::number(dot.reason) << x << dot.first << dot.candidate;
+    if (dot.candidate < 0)
+        return -1;
+    return returnTime ? times[dot.candidate] : screenXs[dot.candidate];
+}
+
+NearestDot Blackboard::nearestTo(float x) const
+{
+    const auto [start, end] = getDayTimeRange(day);
+    return nearestDot(times, screenXs, {start, end}, x);
+}
+
+void Blackboard::resetPlot()
+{
+    if (plotBottom >= 0 && plotTop >= 0)
+        return;
+    const ValueRange range = mode == twentyFourHours ? ranges.today : ranges.all;
+    const auto values = ChartScale::valuesOf(height(), topMargin, bottomMargin, range);
+    plotBottom = values.bottom;
+    plotTop = values.top;
+    scaleY = values.scale;
+    offsetY = values.offset;
+}
+
+void Blackboard::resetTimeLine()
+{
+    if (pxPerHour == 0.0F || pxPerSecond == 0.0F) {
+        screenXs.clear();
+        const auto scale = ChartScale::timesOf(width(), leftMargin, rightMargin, hours);
+        pxPerHour = scale.pxPerHour;
+        pxPerSecond = scale.pxPerSecond;
+    }
+    if (pxPerHour <= 0.0F || (!times.isEmpty() && !screenXs.isEmpty()))
+        return;
+    const ChartScale::Times scale{leftMargin, pxPerHour, pxPerSecond};
+    times = valueMap.keys();
+    screenXs.clear();
+    screenXs.reserve(times.size());
+    for (const int time : std::as_const(times))
+        screenXs.append(ChartScale::truncated(scale.toX(time)));
+}
+
+void Blackboard::resetGeometry()
+{
+    resetPlot();
+    resetTimeLine();
+}
+
+ChartFrame Blackboard::currentFrame() const
+{
+    ChartFrame frame;
+    frame.size = size();
+    frame.pixelRatio = devicePixelRatioF();
+    frame.values = {plotBottom, plotTop, scaleY, offsetY};
+    frame.times = {leftMargin, pxPerHour, pxPerSecond};
+    frame.rightMargin = rightMargin;
+    frame.range = mode == twentyFourHours ? ranges.today : ranges.all;
+    frame.hours = hours;
+    frame.valueDivisions = valueDivisions;
+    const auto [start, end] = getDayTimeRange(day);
+    frame.days = {start, end};
+    frame.otherDays = mode == sevenDays;
+    frame.revealed = animating ? timeLine->currentValue() : 1;
+    frame.series = series;
+    return frame;
+}
+
+bool Blackboard::refreshStillPart(const ChartFrame &frame)
+{
+    if (!stillPart.isNull() && frame == stillFrame)
+        return false;
+    stillPart = QPixmap(frame.size * frame.pixelRatio);
+    stillPart.setDevicePixelRatio(frame.pixelRatio);
+    stillPart.fill(Qt::transparent);
+    stillFrame = frame;
+    QPainter painter(&stillPart);
+    ChartPainter(&painter, frame, &gc()).drawStillPart(valueMap);
+    return true;
+}
+
+ChartMarker Blackboard::markerAt(int x, float value) const
+{
+    return {x, ChartScale::truncated(valueYToScreenY(value)), gc().colorOfPm(value)};
+}
+
+void Blackboard::paintEvent(QPaintEvent *event)
+{
+    resetGeometry();
+    const ChartFrame frame = currentFrame();
+    // A new day can begin while a finger moves: then the rest of the chart has to follow.
+    if (refreshStillPart(frame) && event->region() != QRegion(rect()))
+        update();
+
+    paintedMarker = {};
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, stillPart);
+    if (touchX <= 0.0F)
+        return;
+    const int x = searchNearestScreenX(touchX, false);
+    const int time = searchNearestScreenX(touchX, true);
+    if (time < 0) {
+        painter.end();
+        emit signalMouseRelease();
+        return;
+    }
+    const float value = valueMap.value(time);
+    const ChartMarker marker = markerAt(x, value);
+    qDebug() << "Nearest X:" << time << "Value " << value;
+    ChartPainter(&painter, frame, &gc()).drawMarker(marker);
+    paintedMarker = ChartPainter::markerRegion(marker, height());
+    // Whoever listens may change what lies around the chart: not under a painter at work.
+    painter.end();
+    emit signalTouch(float(x), time, value, marker.color, unitOf(type));
+}
+
+void Blackboard::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    pxPerHour = pxPerSecond = 0;
+    plotBottom = plotTop = -1;
+}
+
+void Blackboard::followFinger(const QMouseEvent *event)
+{
+    const bool released = event->type() == QEvent::MouseButtonRelease;
+    touchX = released ? -1.0F : float(event->position().toPoint().x());
+    if (touchX <= 0.0F) {
+        update(paintedMarker);
+        return;
+    }
+    resetGeometry();
+    const int index = nearestTo(touchX).candidate;
+    if (index < 0) {
+        // Nothing to mark, but the painting is what reports it.
+        update();
+        return;
+    }
+    const ChartMarker marker = markerAt(screenXs[index], valueMap.value(times[index]));
+    update(paintedMarker + ChartPainter::markerRegion(marker, height()));
+}
+
+void Blackboard::touchEvent(QMouseEvent *event)
+{
+    followFinger(event);
+}
+
+void Blackboard::mousePressEvent(QMouseEvent *event)
+{
+    qDebug() << "Blackboard Press";
+    followFinger(event);
+}
+
+void Blackboard::mouseMoveEvent(QMouseEvent *event)
+{
+    qDebug() << "Blackboard Move";
+    followFinger(event);
+}
+
+void Blackboard::mouseReleaseEvent(QMouseEvent *event)
+{
+    qDebug() << "Blackboard Over";
+    followFinger(event);
+    emit signalMouseRelease();
+}
+
+void Blackboard::timeLineFrameChanged(int)
+{
+    qDebug() << "time line";
+    update();
+}
+
+void Blackboard::reanimate1()
+{
+    if (animating)
+        qDebug() << "jjjj";
+}

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "history/ChartPainter.h"
+#include "history/NearestDot.h"
+
+#include <QMap>
+#include <QPixmap>
+#include <QRegion>
+#include <QWidget>
+#include <utility>
+
+class QTimeLine;
+
+/// A day of the chart: 0 for today, 1 for yesterday ... 6; 7 for the whole week.
+using CurrentDay = int;
+
+/// The chart of the history: readings of one quantity as dots over the hours of a day, which a
+/// finger explores.
+///
+/// Times are Unix seconds, days those of UTC + 8 hours. The still part is painted once per change
+/// and kept; a moving finger repaints the pixels of its marker only. GUI thread.
+class Blackboard : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int twentyFourHours = 0;
+    static constexpr int sevenDays = 1;
+    static constexpr CurrentDay wholeWeek = 7;
+
+    explicit Blackboard(QWidget *parent = nullptr,
+                        LocalTime::Clock currentTime = LocalTime::systemClock);
+
+    /// Shows @p map, Unix time to value, as quantity @p newType: 1 PM2.5, 2 temperature, any other
+    /// humidity. Values that are no numbers are left out with a debug line.
+    void setValueMap(const QMap<int, float> &map, int newType);
+
+    /// Start and, exclusive, end of @p day in Unix seconds; always today in the 24-hour
+    /// presentation.
+    std::pair<qint64, qint64> getDayTimeRange(CurrentDay day) const;
+    /// False exactly at 0 o'clock local time, despite its name.
+    static bool is0oclock(int t);
+    void isCurrentDay(int day);
+
+    /// The x of the time of day of @p time, which is local or, as a Unix time, in UTC.
+    float timeXToScreenX(float time, bool isLocal) const;
+    float valueYToScreenY(float value) const;
+    /// The value at @p y mirrored about the middle of the plot area.
+    float screenYToValueY(float y) const;
+
+    /// The reading nearest to the Unix time @p time, or -1.
+    int searchNearestTime(float time);
+    /// The shown reading nearest to the finger at @p x, or -1: its time where @p returnTime is set,
+    /// else its x.
+    int searchNearestScreenX(float x, bool returnTime);
+
+    /// Handles a press or a move like the mouse, without a debug line.
+    void touchEvent(QMouseEvent *event);
+
+    // What the page sets to change the presentation, followed by update().
+    int mode = twentyFourHours;
+    CurrentDay day = 0;
+    float topMargin = 60;
+    float bottomMargin = 64;
+    float leftMargin = 35;
+    float rightMargin = 80;
+    float plotBottom = -1; ///< negative: worked out anew
+    float plotTop = -1;    ///< negative: worked out anew
+    float pxPerHour = 0;   ///< 0: worked out anew
+    float pxPerSecond = 0; ///< 0: worked out anew
+    int hours = 24;
+    int valueDivisions = 3;
+    bool animating = false; ///< whether the time line reveals the axes
+
+public slots:
+    void timeLineFrameChanged(int frame);
+    void reanimate1();
+
+signals:
+    /// A reading is under the finger. Emitted from painting, thus again with every repaint.
+    void signalTouch(float x, int time, float value, QColor valueColor, QString unit);
+    /// The finger has left, or there is no reading to touch.
+    void signalMouseRelease();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    static PmColorGenerator &gc();
+    void resetGeometry();
+    void resetTimeLine();
+    void resetPlot();
+    ChartFrame currentFrame() const;
+    NearestDot nearestTo(float x) const;
+    ChartMarker markerAt(int x, float value) const;
+    bool refreshStillPart(const ChartFrame &frame);
+    void followFinger(const QMouseEvent *event);
+
+    LocalTime::Clock clock;
+    QTimeLine *timeLine;
+    int type = 0;
+    QMap<int, float> valueMap;
+    QList<int> times;
+    QList<int> screenXs;
+    ValueRanges ranges;
+    float scaleY = 0;
+    float offsetY = 0;
+    float touchX = -1;
+    QPixmap stillPart;
+    ChartFrame stillFrame;
+    quint64 series = 0;
+    QRegion paintedMarker;
+};

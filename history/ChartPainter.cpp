@@ -1,0 +1,168 @@
+#include "history/ChartPainter.h"
+
+#include <QLinearGradient>
+#include <QRegion>
+
+namespace {
+constexpr int labelSize = 18;
+constexpr int hourLabelsBelowPlot = 28;
+constexpr int valueLabelsRightOfPlot = 20;
+constexpr int valueLabelsBelowLine = 10;
+constexpr int ownDotSize = 16;
+constexpr int otherDotSize = 4;
+constexpr int ownDotAlpha = 204;
+constexpr int otherDotAlpha = 76;
+constexpr int gridAlpha = 25;
+constexpr int markerLineTop = -20;
+constexpr int markerLineFadesAboveFoot = 50;
+// The ring is drawn at this distance left of and above its reading, 18 pixels wide.
+constexpr int ringRadius = 9;
+constexpr int ringSize = 18;
+
+QFont labelFont()
+{
+    // The default family of the device.
+    QFont font(QStringLiteral("Helvetica"));
+    font.setPixelSize(labelSize);
+    return font;
+}
+
+QRect ringRect(const ChartMarker &marker)
+{
+    return {marker.x - ringRadius, marker.y - ringRadius, ringSize, ringSize};
+}
+} // namespace
+
+ChartPainter::ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGenerator *scale)
+    : painter(target)
+    , frame(shown)
+    , colors(scale)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setFont(labelFont());
+}
+
+void ChartPainter::drawStillPart(const QMap<int, float> &readings)
+{
+    drawHourAxis();
+    drawValueAxis();
+    drawReadings(readings);
+}
+
+void ChartPainter::drawHourAxis()
+{
+    const QPen labels = labelPen();
+    const QPen lines = gridPen({0, 0}, {0, frame.values.bottom});
+    const int labelY = ChartScale::truncated(frame.values.bottom + float(hourLabelsBelowPlot));
+    const auto ticks =
+        ChartScale::hourTicks(frame.times, frame.size.width(), frame.rightMargin, frame.hours);
+    for (const ChartScale::HourTick &tick : ticks) {
+        if (frame.revealed < 1 && tick.x >= frame.revealed * frame.size.width())
+            break;
+        painter->setPen(labels);
+        painter->drawText(tick.labelX, labelY, QString::number(tick.hour));
+        if (tick.hasLine) {
+            painter->setPen(lines);
+            painter->drawLine(QPointF(tick.x, frame.values.top),
+                              QPointF(tick.x, frame.values.bottom));
+        }
+    }
+}
+
+void ChartPainter::drawValueAxis()
+{
+    const int width = frame.size.width();
+    const QPen labels = labelPen();
+    const QPen lines = gridPen({0, 0}, {double(width), 0});
+    const int labelX =
+        ChartScale::truncated(float(width) - frame.rightMargin + float(valueLabelsRightOfPlot));
+    const auto ticks = ChartScale::valueTicks(frame.values, frame.range, frame.valueDivisions);
+    for (const ChartScale::ValueTick &tick : ticks) {
+        if (frame.revealed >= 1) {
+            painter->setPen(labels);
+            painter->drawText(labelX, tick.y + valueLabelsBelowLine, QString::number(tick.value));
+        }
+        painter->setPen(lines);
+        painter->drawLine(QPointF(0, tick.y), QPointF(width * frame.revealed, tick.y));
+    }
+}
+
+void ChartPainter::drawReadings(const QMap<int, float> &readings)
+{
+    // A widget too narrow for its margins has no time axis to place a dot on.
+    if (frame.times.pxPerHour <= 0.0F)
+        return;
+    QList<QPointF> ownDays;
+    QList<QPointF> otherDays;
+    for (auto reading = readings.cbegin(); reading != readings.cend(); ++reading) {
+        const QPointF point(frame.times.toX(reading.key()),
+                            ChartScale::truncated(frame.values.toY(reading.value())));
+        (frame.days.contains(reading.key()) ? ownDays : otherDays).append(point);
+    }
+
+    QLinearGradient scale(0, 0, 0, frame.values.bottom);
+    QColor color = colors->colorOfPm(frame.range.max);
+    color.setAlpha(ownDotAlpha);
+    scale.setColorAt(0, color);
+    color = colors->colorOfPm(frame.range.min);
+    color.setAlpha(ownDotAlpha);
+    scale.setColorAt(1, color);
+    painter->setPen(QPen(scale, ownDotSize, Qt::SolidLine, Qt::RoundCap));
+    drawDots(painter, ownDays);
+    if (frame.otherDays) {
+        painter->setPen(
+            QPen(QColor(255, 255, 255, otherDotAlpha), otherDotSize, Qt::SolidLine, Qt::RoundCap));
+        drawDots(painter, otherDays);
+    }
+}
+
+void ChartPainter::drawDots(QPainter *on, const QList<QPointF> &points)
+{
+    // One by one: drawn together, dots that overlap would melt into one shape.
+    for (const QPointF &point : points)
+        on->drawPoint(point);
+}
+
+void ChartPainter::drawMarker(const ChartMarker &marker)
+{
+    const int height = frame.size.height();
+    QLinearGradient fade(0, 0, 0, height - markerLineFadesAboveFoot);
+    fade.setColorAt(0, marker.color);
+    fade.setColorAt(1, Qt::transparent);
+    painter->setPen(QPen(fade, 2, Qt::SolidLine, Qt::SquareCap));
+    painter->drawLine(marker.x, markerLineTop, marker.x, height);
+
+    painter->setPen(QPen(Qt::white, 2));
+    painter->setBrush(marker.color);
+    painter->drawEllipse(ringRect(marker));
+}
+
+QRegion ChartPainter::markerRegion(const ChartMarker &marker, int height)
+{
+    // Half a pen and one pixel of antialiasing.
+    constexpr int air = 2;
+    return QRegion(marker.x - air, 0, 2 * air, height) +
+           ringRect(marker).adjusted(-air, -air, air, air);
+}
+
+QPen ChartPainter::labelPen() const
+{
+    QBrush brush(Qt::white);
+    if (frame.revealed < 1) {
+        QLinearGradient gradient(0, 0, frame.size.width() * frame.revealed, 0);
+        gradient.setColorAt(0, Qt::white);
+        gradient.setColorAt(0.8, Qt::white);
+        gradient.setColorAt(1, Qt::transparent);
+        brush = gradient;
+    }
+    return {brush, 5, Qt::SolidLine, Qt::RoundCap};
+}
+
+QPen ChartPainter::gridPen(QPointF from, QPointF to) const
+{
+    QLinearGradient gradient(from, to);
+    gradient.setColorAt(0, Qt::transparent);
+    gradient.setColorAt(0.5, QColor(0, 0xE5, 0xFF, gridAlpha));
+    gradient.setColorAt(1, Qt::transparent);
+    return {gradient, 2, Qt::SolidLine, Qt::SquareCap};
+}

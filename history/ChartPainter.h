@@ -1,0 +1,65 @@
+#pragma once
+
+#include "history/ChartScale.h"
+#include "mainscreen/PmColorGenerator.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QPointF>
+#include <QSize>
+
+/// All that the still part of the chart depends on; equal frames look the same.
+struct ChartFrame
+{
+    QSize size;
+    double pixelRatio = 1;
+    ChartScale::Values values;
+    ChartScale::Times times;
+    float rightMargin = 0;
+    ValueRange range;
+    int hours = 0;
+    int valueDivisions = 0;
+    LocalTime::Range days;  ///< readings shown as large dots
+    bool otherDays = false; ///< whether the others are shown as small dots
+    double revealed = 1;    ///< share of the width that the reveal animation has reached
+    quint64 series = 0;     ///< counts the series handed to the chart
+
+    bool operator==(const ChartFrame &) const = default;
+};
+
+/// A reading under the finger.
+struct ChartMarker
+{
+    int x = 0;
+    int y = 0;
+    QColor color;
+};
+
+/// Paints the chart on a painter of the widget's size. GUI thread.
+class ChartPainter
+{
+public:
+    /// Paints on @p target, which must be active as long as this object is used.
+    ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGenerator *scale);
+
+    /// The axes, their grid, and a dot for each of @p readings.
+    void drawStillPart(const QMap<int, float> &readings);
+
+    /// The line and the ring at a touched reading.
+    void drawMarker(const ChartMarker &marker);
+
+    /// The pixels that drawMarker() may touch on a chart @p height pixels high.
+    static QRegion markerRegion(const ChartMarker &marker, int height);
+
+private:
+    void drawHourAxis();
+    void drawValueAxis();
+    void drawReadings(const QMap<int, float> &readings);
+    void drawDots(QPainter *on, const QList<QPointF> &points);
+    QPen labelPen() const;
+    QPen gridPen(QPointF from, QPointF to) const;
+
+    QPainter *painter;
+    const ChartFrame &frame;
+    PmColorGenerator *colors;
+};
