@@ -1,0 +1,179 @@
+#include "history/HistoryPage.h"
+
+#include "history/Blackboard.h"
+#include "history/DemonstrationSeries.h"
+#include "history/SlideLabel.h"
+#include "ui_HistoryPage.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <chrono>
+#include <cstdlib>
+
+namespace {
+constexpr int indexOf7Days = 0;
+constexpr float marginOf24Hours = 35;
+// Room for the day buttons.
+constexpr float marginOf7Days = 80;
+// The read-out begins left of the dot it stands for.
+constexpr float readOutLead = 35;
+constexpr QSize readOutSize(200, 76);
+
+const QString tabStyle = QStringLiteral(
+    "QTabBar::tab:selected {color: #212121; border: 0px solid; border-radius: 5px;  "
+    "background-color: #00e5ff}QTabBar {background-color: #000000}QTabBar::tab {width: 100px; "
+    "height: 50px;font: 24px;}QTabBar::tab:!selected {color: #ffffff;background-color: "
+    "#000000;}QTabWidget::pane { /* The tab widget frame */ width: 0px; height: 0px;}");
+const QString dayStyle = QStringLiteral(
+    "QRadioButton {font:bold 24px;}QRadioButton::checked {color:#ffffff}QRadioButton::unchecked "
+    "{color:#4E4E4E}QRadioButton::indicator {width: 0px; height: 0px;}");
+} // namespace
+
+HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
+    : QWidget(parent)
+    , clock(std::move(currentTime))
+    , ui(std::make_unique<Ui::HistoryPage>())
+    , slideLabel(new SlideLabel(this))
+    , blackboard(nullptr)
+{
+    ui->setupUi(this);
+    ui->tabWidget->setStyleSheet(tabStyle);
+    for (QRadioButton *button : dayButtons())
+        button->setStyleSheet(dayStyle);
+    ui->day_group->hide();
+    slideLabel->setGeometry(0, 0, 200, 100);
+    slideLabel->raise();
+    slideLabel->hide();
+
+    blackboard = new Blackboard(ui->blackboard_content, clock);
+    connect(blackboard, &Blackboard::signalTouch, this, &HistoryPage::onBlackboradTouch);
+    connect(blackboard, &Blackboard::signalMouseRelease, this, &HistoryPage::onBlackboradRelease);
+    midnight.setSingleShot(true);
+    midnight.setTimerType(Qt::PreciseTimer);
+    connect(&midnight, &QTimer::timeout, this, &HistoryPage::loadData);
+    loadData();
+    ui->blackboard_content->layout()->addWidget(blackboard);
+}
+
+HistoryPage::~HistoryPage() = default;
+
+void HistoryPage::showing(int newQuantity)
+{
+    quantity = newQuantity;
+}
+
+void HistoryPage::hiding() {}
+
+void HistoryPage::loadData()
+{
+    const qint64 now = clock();
+    std::srand(unsigned(now));
+    blackboard->setValueMap(demonstrationSeries(now, quantity, std::rand), quantity);
+    labelDays();
+    awaitMidnight();
+}
+
+std::array<QRadioButton *, HistoryPage::numberOfDays> HistoryPage::dayButtons() const
+{
+    return {ui->radio_day0, ui->radio_day1, ui->radio_day2, ui->radio_day3,
+            ui->radio_day4, ui->radio_day5, ui->radio_day6};
+}
+
+void HistoryPage::labelDays()
+{
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(clock());
+    int daysAgo = 0;
+    for (QRadioButton *button : dayButtons())
+        button->setText(now.addDays(-daysAgo++).toString(QStringLiteral("dd 日")));
+}
+
+void HistoryPage::awaitMidnight()
+{
+    const std::chrono::seconds left(LocalTime::secondsPerDay - LocalTime::secondOfDay(clock()));
+    midnight.start(left);
+}
+
+void HistoryPage::present(int mode, float leftMargin)
+{
+    blackboard->mode = mode;
+    blackboard->leftMargin = leftMargin;
+    blackboard->pxPerHour = 0;
+    blackboard->pxPerSecond = 0;
+    blackboard->plotBottom = -1;
+    blackboard->plotTop = -1;
+    blackboard->update();
+}
+
+void HistoryPage::selectDay(int day)
+{
+    blackboard->day = day;
+    present(Blackboard::sevenDays, marginOf7Days);
+}
+
+void HistoryPage::on_button_back_clicked()
+{
+    emit signal_backDefaultPage();
+}
+
+void HistoryPage::on_tabWidget_currentChanged(int index)
+{
+    const bool shows7Days = index == indexOf7Days;
+    qDebug() << (shows7Days ? "show 7 days data" : "show 24 hours data");
+    ui->day_group->setVisible(shows7Days);
+    if (shows7Days)
+        present(Blackboard::sevenDays, marginOf7Days);
+    else
+        present(Blackboard::twentyFourHours, marginOf24Hours);
+}
+
+void HistoryPage::on_radio_day0_toggled(bool)
+{
+    selectDay(0);
+}
+
+void HistoryPage::on_radio_day1_toggled(bool)
+{
+    selectDay(1);
+}
+
+void HistoryPage::on_radio_day2_toggled(bool)
+{
+    selectDay(2);
+}
+
+void HistoryPage::on_radio_day3_toggled(bool)
+{
+    selectDay(3);
+}
+
+void HistoryPage::on_radio_day4_toggled(bool)
+{
+    selectDay(4);
+}
+
+void HistoryPage::on_radio_day5_toggled(bool)
+{
+    selectDay(5);
+}
+
+void HistoryPage::on_radio_day6_toggled(bool)
+{
+    selectDay(6);
+}
+
+void HistoryPage::onBlackboradTouch(float x, int time, float value, const QColor &valueColor,
+                                    const QString &unit)
+{
+    qDebug() << "x:" << x << " time:" << time << " value:" << value;
+    slideLabel->updateValue(value, unit, QStringLiteral("2016-07-11"), valueColor);
+    slideLabel->setGeometry(QRect(QPoint(int(x - readOutLead), 0), readOutSize));
+    slideLabel->show();
+    ui->frame_top->hide();
+}
+
+void HistoryPage::onBlackboradRelease()
+{
+    slideLabel->hide();
+    ui->frame_top->show();
+    qDebug() << "Release";
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "history/LocalTime.h"
+
+#include <QColor>
+#include <QTimer>
+#include <QWidget>
+#include <array>
+#include <memory>
+
+class Blackboard;
+class QRadioButton;
+class SlideLabel;
+
+namespace Ui {
+class HistoryPage;
+}
+
+/// The page of the history: a chart of today or of seven days, read by touch.
+///
+/// It shows a generated demonstration series, not the readings of the device. GUI thread.
+class HistoryPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit HistoryPage(QWidget *parent = nullptr,
+                         LocalTime::Clock currentTime = LocalTime::systemClock);
+    ~HistoryPage() override;
+
+    /// Makes @p newQuantity (1 PM2.5, 2 temperature, 3 humidity) the one that the next loadData()
+    /// shows.
+    void showing(int newQuantity);
+    void hiding();
+    /// Builds the series up to the present day and hands it to the chart. Runs by itself at
+    /// midnight.
+    void loadData();
+
+signals:
+    /// The user wants to leave the page.
+    void signal_backDefaultPage();
+
+private slots:
+    void on_button_back_clicked();
+    void on_tabWidget_currentChanged(int index);
+    void on_radio_day0_toggled(bool checked);
+    void on_radio_day1_toggled(bool checked);
+    void on_radio_day2_toggled(bool checked);
+    void on_radio_day3_toggled(bool checked);
+    void on_radio_day4_toggled(bool checked);
+    void on_radio_day5_toggled(bool checked);
+    void on_radio_day6_toggled(bool checked);
+    void onBlackboradTouch(float x, int time, float value, const QColor &valueColor,
+                           const QString &unit);
+    void onBlackboradRelease();
+
+private:
+    static constexpr std::size_t numberOfDays = 7;
+    std::array<QRadioButton *, numberOfDays> dayButtons() const;
+    void labelDays();
+    void awaitMidnight();
+    void present(int mode, float leftMargin);
+    void selectDay(int day);
+
+    LocalTime::Clock clock;
+    int quantity = 2;
+    std::unique_ptr<Ui::HistoryPage> ui;
+    SlideLabel *slideLabel;
+    Blackboard *blackboard;
+    QTimer midnight;
+};

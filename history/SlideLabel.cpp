@@ -1,0 +1,65 @@
+#include "history/SlideLabel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace {
+constexpr int horizontalGap = 9;
+constexpr int verticalGap = 3;
+constexpr int chipHeight = 42;
+constexpr int unitWidth = 73;
+
+QLabel *makeLabel(QWidget *parent, const QString &text, int pixelSize, Qt::Alignment alignment)
+{
+    auto *label = new QLabel(text, parent);
+    QFont font = label->font();
+    font.setPixelSize(pixelSize);
+    label->setFont(font);
+    label->setAlignment(alignment);
+    label->setIndent(0);
+    return label;
+}
+} // namespace
+
+SlideLabel::SlideLabel(QWidget *parent)
+    : QWidget(parent)
+    , timeLabel(makeLabel(this, QStringLiteral("2005-7-11/23:02"), 24,
+                          Qt::AlignHCenter | Qt::AlignBottom))
+    , valueLabel(makeLabel(this, QStringLiteral("77"), 34, Qt::AlignHCenter | Qt::AlignBottom))
+    , unitLabel(makeLabel(this, QStringLiteral("cm"), 32, Qt::AlignCenter))
+{
+    setStyleSheet(QStringLiteral("QLabel {background: transparent; font-family: Helvetica;}"));
+    timeLabel->setStyleSheet(QStringLiteral("QLabel {color: #ffffff;padding: 0px;}"));
+    unitLabel->setStyleSheet(QStringLiteral("QLabel {color: #4e4e4e}"));
+
+    // The rows keep their heights and the chip takes the width that the unit leaves: neither jumps
+    // with the number shown, and fonts of generous line height do not spread them.
+    timeLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    valueLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    unitLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    unitLabel->setMinimumWidth(unitWidth);
+
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(horizontalGap);
+    grid->setVerticalSpacing(verticalGap);
+    grid->setColumnStretch(0, 1);
+    grid->setRowStretch(0, 1);
+    grid->setRowMinimumHeight(1, chipHeight);
+    grid->addWidget(timeLabel, 0, 0, 1, 2);
+    grid->addWidget(valueLabel, 1, 0);
+    grid->addWidget(unitLabel, 1, 1);
+}
+
+void SlideLabel::updateValue(float value, const QString &unit, const QString &, const QColor &color)
+{
+    valueLabel->setText(QString::asprintf("%.1f", double(value)));
+    unitLabel->setText(unit);
+    const QString style =
+        QStringLiteral("QLabel { width: 60px;height: 30px;background-color : %1; color : white; "
+                       "border:0px groove gray;border-radius:10px;padding-top:5px;}")
+            .arg(color.name());
+    // Setting a style sheet polishes the label anew even where it is the same.
+    if (valueLabel->styleSheet() != style)
+        valueLabel->setStyleSheet(style);
+}

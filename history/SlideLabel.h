@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+class QLabel;
+
+/// The read-out of a touched reading: its value on a chip of its colour, the unit beside it, and a
+/// date above. GUI thread.
+class SlideLabel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SlideLabel(QWidget *parent = nullptr);
+
+    /// Shows @p value with one decimal in @p unit on @p color. The date keeps the text it was built
+    /// with; @p time is not shown. Repeating a call costs nothing.
+    void updateValue(float value, const QString &unit, const QString &time, const QColor &color);
+
+private:
+    QLabel *timeLabel;
+    QLabel *valueLabel;
+    QLabel *unitLabel;
+};
