@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pages/EmptyPage.h"
 #include "pages/Ground.h"
 
 #include <QStackedWidget>
@@ -23,18 +24,21 @@ void showPage(Page *page, Opener *opener, QStackedWidget *stack, QWidget *holder
 /// The way every sub-page is opened.
 ///
 /// Builds a fresh @p Page inside @p holder and shows it. The pages of earlier visits stay until the
-/// opener goes. Returns the new page, owned by @p holder.
+/// opener goes; of a Page with a member named emptiedWhenLeft only the empty frame stays, see
+/// emptyPage(). Returns the new page, owned by @p holder.
 template <class Page, class Opener>
 Page *openPage(Opener *opener, QStackedWidget *stack, QWidget *holder, void (Opener::*goBack)())
 {
     auto *page = new Page(holder);
     showPage(page, opener, stack, holder, goBack);
+    if constexpr (requires { Page::emptiedWhenLeft; })
+        QObject::connect(page, &Page::signal_backDefaultPage, page, [page] { emptyPage(page); });
     return page;
 }
 
 /// The one instance of a @p Page that exists once, moved into @p holder; built on the first call.
 /// To be shown with showPage(). Owned by its present holder; Page::instance must become null when
-/// the page goes.
+/// the page goes. An opener that is emptied when it is left hands it on with handOnSinglePage().
 template <class Page>
 Page *singlePage(QWidget *holder)
 {
@@ -43,4 +47,16 @@ Page *singlePage(QWidget *holder)
     else if (Page::instance->parentWidget() != holder)
         Page::instance->setParent(holder);
     return Page::instance;
+}
+
+/// Moves the one @p Page from anywhere inside @p opener to the widget around it, out of sight, and
+/// ends its way back there.
+template <class Page>
+void handOnSinglePage(QWidget *opener)
+{
+    if (Page::instance == nullptr)
+        return;
+    QObject::disconnect(Page::instance, nullptr, opener, nullptr);
+    if (opener->isAncestorOf(Page::instance))
+        Page::instance->setParent(opener->parentWidget());
 }

@@ -58,5 +58,7 @@ void SetTimePage::back_default_page()
 
 void SetTimePage::on_button_back_clicked()
 {
+    handOnSinglePage<DateTimePage>(this);
+    handOnSinglePage<TimeZonePage>(this);
     emit signal_backDefaultPage();
 }

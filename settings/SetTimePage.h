@@ -15,6 +15,8 @@ class SetTimePage : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr bool emptiedWhenLeft = true;
+
     explicit SetTimePage(QWidget *parent = nullptr);
     ~SetTimePage() override;
 

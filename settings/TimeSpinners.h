@@ -17,7 +17,6 @@ struct TimeSpinners
 
     /// Loads all wheels afresh, @p start in their middle.
     void load(bool use24Hour, const QTime &start) const;
-    /// Takes the wheels off the screen, for a page that is left. A page left behind lies under the
-    /// next one, which counts as visible; its wheels must not keep their pictures for that.
+    /// Takes the wheels off the screen, for a page that is left and will be loaded again.
     void hide() const;
 };

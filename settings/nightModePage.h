@@ -15,6 +15,8 @@ class nightModePage : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr bool emptiedWhenLeft = true;
+
     explicit nightModePage(QWidget *parent = nullptr);
     ~nightModePage() override;
 

@@ -1,5 +1,6 @@
 #include "settings/timePage.h"
 
+#include "settings/TimeSpinners.h"
 #include "ui_timePage.h"
 
 #include <QCoreApplication>
@@ -32,13 +33,9 @@ timePage::~timePage() = default;
 
 void timePage::initTimeControl()
 {
-    timeSpinners().load(use24Hour, shownStart);
+    const TimeSpinners spinners{ui->widget_hour, ui->widget_min, ui->widget_amp};
+    spinners.load(use24Hour, shownStart);
     ui->widget_hour->setFocus();
-}
-
-TimeSpinners timePage::timeSpinners() const
-{
-    return {ui->widget_hour, ui->widget_min, ui->widget_amp};
 }
 
 void timePage::on_pushButton_start_clicked()
@@ -55,6 +52,5 @@ void timePage::on_pushButton_finish_clicked()
 
 void timePage::on_button_back_clicked()
 {
-    timeSpinners().hide();
     emit signal_backDefaultPage();
 }

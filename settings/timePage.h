@@ -1,7 +1,5 @@
 #pragma once
 
-#include "settings/TimeSpinners.h"
-
 #include <QWidget>
 #include <memory>
 
@@ -17,6 +15,8 @@ class timePage : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr bool emptiedWhenLeft = true;
+
     explicit timePage(QWidget *parent = nullptr);
     ~timePage() override;
 
@@ -30,7 +30,6 @@ private slots:
 
 private:
     void initTimeControl();
-    TimeSpinners timeSpinners() const;
 
     std::unique_ptr<Ui::timePage> ui;
     bool use24Hour = true;

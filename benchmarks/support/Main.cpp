@@ -8,6 +8,7 @@ void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 int main(int argc, char *argv[])
 {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QApplication application(argc, argv);
     const Environment environment;
     benchmark::Initialize(&argc, argv);

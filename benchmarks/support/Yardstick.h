@@ -20,6 +20,10 @@ public:
     static void measure(benchmark::State &state, double limit, const std::function<void()> &work,
                         const std::function<void()> &prepare = {});
 
+    /// Reports a @p figure that is no time, a number of bytes for instance, and its @p limit as
+    /// counters of @p state. A figure above its limit counts as missed, too.
+    static void check(benchmark::State &state, double figure, double limit);
+
     /// How many benchmarks of this program have missed their limit.
     static int missed();
 
