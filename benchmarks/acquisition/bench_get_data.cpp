@@ -1,0 +1,32 @@
+#include "acquisition/GetData.h"
+#include "benchmarks/support/Yardstick.h"
+#include "shell/Global_cfg.h"
+#include "store/ZellDatabase.h"
+#include "tests/support/Environment.h"
+
+namespace {
+// Every second of the life of a device that has run for hours, on the GUI thread.
+void tickOfAllSchedulers(benchmark::State &state)
+{
+    constexpr double limit = 80;
+    Environment::writeDeviceFile(
+        QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity"),
+        "temp = 23456, humidity = 45678\n");
+    ZellDatabase database;
+    zelldatabase = &database;
+    for (int row = 1; row <= GETDATA_MAX_OBJECTS; ++row)
+        database.InsertDataBaseItem(row, QStringLiteral("TempAndHum"), row, 0);
+
+    const auto tick = [] {
+        for (GetData *scheduler : GetData::objects())
+            QMetaObject::invokeMethod(scheduler, "refresh_allData");
+    };
+    const auto rest = [] {
+        GetData::iTempHumNum = 0; // no row is due
+        for (GetData *scheduler : GetData::objects())
+            scheduler->wait();
+    };
+    Yardstick::measure(state, limit, tick, rest);
+}
+BENCHMARK(tickOfAllSchedulers)->UseManualTime()->Iterations(300);
+} // namespace
