@@ -55,8 +55,7 @@ TempHumReading parseTempHum(const QByteArray &text)
 
 QByteArray readSensorFile(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() == 0)
+    if (!QFileInfo(path).isFile())
         return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
