@@ -1,5 +1,6 @@
 #include "mainscreen/BaseScene.h"
 
+#include "history/HistoryPage.h"
 #include "mainscreen/Transparent.h"
 #include "pages/Ground.h"
 #include "pages/SlideIn.h"
@@ -44,6 +45,7 @@ BaseScene::BaseScene(QWidget *parent)
     fillGround(ui->page_history);
     ownGround = {ui->frame_side,     ui->frame_pm,      ui->frame_temperature,
                  ui->frame_humidity, ui->frame_history, ui->page_history};
+    historyPage = new HistoryPage(ui->page_history);
     animation_init();
     connect_init();
 }
@@ -52,6 +54,7 @@ BaseScene::~BaseScene() = default;
 
 void BaseScene::connect_init()
 {
+    connect(historyPage, &HistoryPage::signal_backDefaultPage, this, &BaseScene::jump_scenePage);
     // The clock of the history capsule belongs to the button beside it.
     connect(ui->button_historyLogo, &QPushButton::clicked, this,
             &BaseScene::on_button_history_clicked);
@@ -87,6 +90,7 @@ void BaseScene::change_currentPage(int page)
     default:
         break;
     }
+    historyPage->showing(page);
 }
 
 void BaseScene::showTiles(bool pm, bool temperature, bool humidity)
@@ -141,6 +145,7 @@ void BaseScene::on_button_option_clicked()
 
 void BaseScene::on_button_history_clicked()
 {
+    historyPage->loadData();
     connect(slideIn(ui->page_history), &QPropertyAnimation::finished, this,
             &BaseScene::anHistory_finished);
 }

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-class QLabel;
+class HistoryPage;
 namespace Ui {
 class BaseScene;
 }
@@ -22,7 +22,7 @@ public:
     ~BaseScene() override;
 
     /// Shows the tiles and the caption that belong to @p page: 1 PM2.5, 2 temperature, 3 humidity.
-    /// Any other number leaves them as they are.
+    /// Any other number leaves them as they are. The history is told the number in any case.
     void change_currentPage(int page);
 
 signals:
@@ -57,4 +57,5 @@ private:
 
     std::unique_ptr<Ui::BaseScene> ui;
     std::vector<QWidget *> ownGround;
+    HistoryPage *historyPage;
 };

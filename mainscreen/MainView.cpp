@@ -51,7 +51,7 @@ BaseScene *MainView::overlay() const
 
 void MainView::scene_init()
 {
-    // A fixed rectangle: the scene would grow with the strip and take the view along.
+    // A fixed rectangle: otherwise every step of a slide has the scene measured anew.
     setSceneRect(QRectF(QPointF(0, 0), screenSize));
     centerOn(width() / 2.0, height() / 2.0);
     setWindowFlag(Qt::FramelessWindowHint);
