@@ -1,4 +1,5 @@
 #include "benchmarks/support/Yardstick.h"
+#include "mainscreen/BaseScene.h"
 #include "mainscreen/MainView.h"
 #include "shell/MainWindow.h"
 
@@ -47,21 +48,50 @@ void firstPicture(benchmark::State &state)
         state.SetLabel("ABOVE ITS LIMIT");
 }
 
+/// The main window on the screen, with its view.
+struct Screen
+{
+    Screen()
+    {
+        window.setGeometry(0, 0, 854, 480);
+        window.show();
+        while (!window.windowHandle()->isExposed())
+            QApplication::processEvents();
+        view = window.findChild<MainView *>();
+    }
+    MainWindow window;
+    MainView *view = nullptr;
+};
+
 // One step of a slide between two pages: the positions and everything painted for them.
 void slideFrame(benchmark::State &state)
 {
     constexpr double limit = 10;
-    MainWindow window;
-    window.setGeometry(0, 0, 854, 480);
-    window.show();
-    while (!window.windowHandle()->isExposed())
-        QApplication::processEvents();
-    auto *view = window.findChild<MainView *>();
+    const Screen screen;
     int frame = -1000;
     const auto step = [&] {
         frame = frame <= -2000 ? -1000 : frame - 32;
-        QMetaObject::invokeMethod(view, "change_page", Q_ARG(int, frame));
-        view->viewport()->repaint();
+        QMetaObject::invokeMethod(screen.view, "change_page", Q_ARG(int, frame));
+        screen.view->viewport()->repaint();
+    };
+    step();
+    QApplication::processEvents();
+    Yardstick::measure(state, limit, step, [] { QApplication::processEvents(); });
+}
+
+// One step of the history page on its way in.
+void historyFrame(benchmark::State &state)
+{
+    constexpr double limit = 15;
+    const Screen screen;
+    auto *history = screen.view->overlay()->findChild<QWidget *>(QStringLiteral("page_history"));
+    history->move(854, 0);
+    history->show();
+    history->raise();
+    const auto step = [&] {
+        history->move(history->x() <= 0 ? 854 : history->x() - 35, 0);
+        QApplication::sendPostedEvents();
+        screen.view->viewport()->repaint();
     };
     step();
     QApplication::processEvents();
@@ -71,3 +101,4 @@ void slideFrame(benchmark::State &state)
 
 BENCHMARK(firstPicture)->UseManualTime()->Iterations(15)->Unit(benchmark::kMillisecond);
 BENCHMARK(slideFrame)->UseManualTime()->Iterations(300)->Unit(benchmark::kMicrosecond);
+BENCHMARK(historyFrame)->UseManualTime()->Iterations(300)->Unit(benchmark::kMicrosecond);
