@@ -31,10 +31,11 @@ constexpr std::chrono::milliseconds samplingDuration{PM25_SAMPING_DURATION};
 constexpr int pmReadingsPerRow = 10000;
 constexpr int pmBenchRange = 500;
 
+/// Never destroyed: a scheduler may live until the very end of the program.
 QList<GetData *> &allObjects()
 {
-    static QList<GetData *> objects;
-    return objects;
+    static auto *objects = new QList<GetData *>;
+    return *objects;
 }
 
 /// Reads the sensor. A fault that lasts is written once, whichever scheduler meets it.
