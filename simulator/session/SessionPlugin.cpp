@@ -26,7 +26,9 @@ void endSession()
     const QString file = qEnvironmentVariable("ZELL_SESSION_SHOT");
     if (!file.isEmpty()) {
         for (QWidget *window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && !window->grab().save(file))
+            // A widget inside a graphics view has no parent either, but stands on another one.
+            const bool onScreen = window->isVisible() && !window->graphicsProxyWidget();
+            if (onScreen && !window->grab().save(file))
                 qDebug() << "cannot save the picture" << file;
         }
     }
