@@ -1,14 +1,32 @@
 #include "pages/Ground.h"
 
-#include <QPalette>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QWidget>
+
+namespace {
+constexpr QColor ground(33, 33, 33);
+
+/// Neither the palette nor the style sheet serves: the sheet takes a widget's own palette away
+/// whenever it is applied anew, and what the sheet paints is not opaque in Qt's eyes.
+class GroundPainter : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            auto *page = static_cast<QWidget *>(watched);
+            QPainter(page).fillRect(static_cast<QPaintEvent *>(event)->rect(), ground);
+        }
+        return false;
+    }
+};
+} // namespace
 
 void fillGround(QWidget *page)
 {
-    // The style sheet turns the filling off when it first meets a widget.
-    page->ensurePolished();
-    QPalette palette = page->palette();
-    palette.setColor(QPalette::Window, QColor(33, 33, 33));
-    page->setPalette(palette);
-    page->setAutoFillBackground(true);
+    page->setAttribute(Qt::WA_OpaquePaintEvent);
+    page->installEventFilter(new GroundPainter(page));
 }
