@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QPersistentModelIndex>
+#include <QPoint>
+
+class QAbstractItemView;
+
+/// Makes a list follow the finger: a drag scrolls it, a tap selects the row under it.
+///
+/// The view itself selects on press, so that every drag would choose the row it happens to begin
+/// on; here the choice falls when the finger is lifted near the place where it went down. The view
+/// gets no mouse events of its own any more. The selection is made within the release, and its
+/// receivers may delete the view. Owned by the view. GUI thread.
+class TouchList : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p listView should scroll per pixel.
+    explicit TouchList(QAbstractItemView *listView);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QAbstractItemView *view;
+    QPoint pressPosition;
+    QPersistentModelIndex pressed;
+};
