@@ -74,9 +74,6 @@ KeyButton::KeyButton(KeyKind kind, QWidget *parent)
 {
     setFocusPolicy(Qt::NoFocus);
     setIconSize(iconSizeOfKeys);
-    // The constructor of QPushButton has already asked the style for a metric, and the style sheet
-    // keeps what it looked up until it hears that the widget is gone.
-    emit destroyed(this);
 }
 
 bool KeyButton::event(QEvent *event)

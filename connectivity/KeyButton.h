@@ -8,9 +8,9 @@ struct KeyLook;
 
 /// A key of the on-screen keyboard.
 ///
-/// It paints itself instead of asking the style sheet: a keyboard has over a hundred keys and is
-/// built anew for every visit, and each widget known to a style sheet costs 10 KB and a search of
-/// all rules. It never takes the focus, as every press would then repaint a second key. GUI thread.
+/// It paints itself instead of asking the style sheet: a keyboard has over a hundred keys, is built
+/// anew for every visit, and must show a press within a few copies of a frame. It never takes the
+/// focus, as every press would then repaint a second key. GUI thread.
 class KeyButton : public QPushButton
 {
     Q_OBJECT

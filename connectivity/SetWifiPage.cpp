@@ -1,0 +1,126 @@
+#include "connectivity/SetWifiPage.h"
+
+#include "connectivity/WifiListModel.h"
+#include "connectivity/WifiListRowDelegate.h"
+#include "connectivity/WifiScan.h"
+#include "connectivity/passwordKeyboard.h"
+#include "pages/PagePattern.h"
+#include "pages/TouchList.h"
+#include "ui_SetWifiPage.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <cstdlib>
+
+namespace {
+// The scan tells neither of them; every network gets the same.
+constexpr int scannedLevel = 3;
+const QString scannedAddress = QStringLiteral("MAC");
+} // namespace
+
+SetWifiPage::SetWifiPage(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::SetWifiPage>())
+    , model(new WifiListModel(this))
+{
+    ui->setupUi(this);
+    for (QWidget *part : std::initializer_list<QWidget *>{
+             ui->label_noWifi, ui->icon_noWifi, ui->info_noWifi, ui->listView, ui->scrollArea})
+        part->hide();
+    ui->listView->setModel(model);
+
+    QFile scanFile(scan());
+    qDebug() << scanFile.exists();
+    if (scanFile.open(QIODevice::ReadOnly) && scanFile.size() != 0)
+        showNetworks(scanFile);
+    else
+        showNoWifi(scanFile);
+}
+
+// The networks must outlive the model, which still reads them while the view is taken down.
+SetWifiPage::~SetWifiPage()
+{
+    delete model;
+}
+
+QString SetWifiPage::scan()
+{
+    const QString command = scanCommand(QDir::currentPath());
+    qDebug() << "command" << command;
+    const QString filePath = scanFilePath(QDir::currentPath());
+    qDebug() << "filePath" << filePath;
+    // The file tells whether it worked.
+    [[maybe_unused]] const int status = std::system(command.toLocal8Bit().constData());
+    return filePath;
+}
+
+void SetWifiPage::showNetworks(QFile &scanFile)
+{
+    ui->listView->show();
+    ui->scrollArea->show();
+    qDebug() << "Open file OK and the file is not blank...";
+    for (const QString &name : readNetworkNames(scanFile)) {
+        qDebug() << "strEverySSIDName" << name;
+        wifiList.append(keep(
+            std::make_unique<WifiInfo>(name, scannedAddress, scannedLevel, EncryptType::None)));
+    }
+    scanFile.close();
+
+    model->setWifiList(wifiList);
+    ui->listView->setItemDelegate(new WifiListRowDelegate(ui->listView));
+    QPalette palette = ui->listView->palette();
+    palette.setBrush(QPalette::Highlight, Qt::white);
+    ui->listView->setPalette(palette);
+    connect(ui->listView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SetWifiPage::onListWifiItemClicked);
+    new TouchList(ui->listView);
+}
+
+void SetWifiPage::showNoWifi(const QFile &scanFile)
+{
+    qDebug() << scanFile.errorString();
+    qDebug() << "file zize = " << scanFile.size();
+    ui->label_noWifi->show();
+    ui->icon_noWifi->show();
+    ui->info_noWifi->show();
+}
+
+WifiInfo *SetWifiPage::keep(std::unique_ptr<WifiInfo> info)
+{
+    networks.push_back(std::move(info));
+    return networks.back().get();
+}
+
+void SetWifiPage::on_button_back_clicked()
+{
+    left = true;
+    emit signal_backDefaultPage();
+    killTimer(timerId);
+    qDebug() << "Timer Killed";
+}
+
+void SetWifiPage::back_default_page()
+{
+    ui->stackedWidget->setCurrentWidget(ui->page_defalut);
+}
+
+void SetWifiPage::onListWifiItemClicked(const QItemSelection &selected, const QItemSelection &)
+{
+    if (selected.isEmpty())
+        return;
+    qDebug() << "Click";
+    // The page may have been left within the second of waiting, or have gone: then it is false.
+    if (!model->toConnect(selected.first().top()) || left)
+        return;
+    openPage<passwordKeyboard>(this, ui->stackedWidget, ui->page_passwordKeyboard,
+                               &SetWifiPage::back_default_page);
+}
+
+void SetWifiPage::timerEvent(QTimerEvent *)
+{
+    qDebug() << "Timer";
+    WifiInfo *info =
+        keep(std::make_unique<WifiInfo>(QStringLiteral("A"), scannedAddress, 0, EncryptType::None));
+    model->insertWifi(0, info);
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "connectivity/WifiInfo.h"
+
+#include <QList>
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+class QFile;
+class QItemSelection;
+class WifiListModel;
+
+namespace Ui {
+class SetWifiPage;
+}
+
+/// The networks in reach, scanned once while the page is built: that blocks for the whole scan.
+///
+/// A tap on a network shows it as connecting for a second, then as connected, and opens the page
+/// for its password. The connection is only shown, not made. Without a scan result the page says
+/// that there is no Wi-Fi. GUI thread.
+class SetWifiPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr bool emptiedWhenLeft = true;
+
+    explicit SetWifiPage(QWidget *parent = nullptr);
+    ~SetWifiPage() override;
+
+signals:
+    void signal_backDefaultPage();
+
+public slots:
+    void on_button_back_clicked();
+    void back_default_page();
+    void onListWifiItemClicked(const QItemSelection &selected, const QItemSelection &deselected);
+
+protected:
+    /// Inserts a placeholder network at the top. The page starts no timer by itself.
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    /// Scans and returns the path of the result.
+    static QString scan();
+    void showNetworks(QFile &scanFile);
+    void showNoWifi(const QFile &scanFile);
+    /// Owned by the page until it goes, as whatever is waiting for a connection still needs it.
+    WifiInfo *keep(std::unique_ptr<WifiInfo> info);
+
+    std::unique_ptr<Ui::SetWifiPage> ui;
+    WifiListModel *model;
+    std::vector<std::unique_ptr<WifiInfo>> networks;
+    QList<WifiInfo *> wifiList;
+    int timerId = 0;
+    bool left = false;
+};

@@ -1,0 +1,129 @@
+#include "connectivity/WifiListModel.h"
+
+#include <QDebug>
+#include <QEventLoop>
+#include <QPointer>
+#include <algorithm>
+#include <chrono>
+
+namespace {
+constexpr std::chrono::milliseconds connectingTime{1000};
+}
+
+WifiListModel::WifiListModel(QObject *parent)
+    : QAbstractListModel(parent)
+{
+    connecting.setSingleShot(true);
+    connecting.setTimerType(Qt::PreciseTimer);
+    connecting.setInterval(connectingTime);
+}
+
+int WifiListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(wifiList.size());
+}
+
+QVariant WifiListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= wifiList.size())
+        return {};
+    const WifiInfo *info = wifiList.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return info->ssid;
+    case Qt::StatusTipRole:
+        return info->signalLevel;
+    case Qt::CheckStateRole:
+        return int(info->getConnectState());
+    default:
+        return {};
+    }
+}
+
+Qt::ItemFlags WifiListModel::flags(const QModelIndex &) const
+{
+    return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+}
+
+bool WifiListModel::setData(const QModelIndex &, const QVariant &, int)
+{
+    return false;
+}
+
+bool WifiListModel::insertRows(int row, int count, const QModelIndex &)
+{
+    if (count < 1)
+        return true;
+    const int first = std::clamp(row, 0, rowCount());
+    beginInsertRows({}, first, first + count - 1);
+    for (int i = 0; i < count; ++i) {
+        blanks.push_back(std::make_unique<WifiInfo>(QString(), QString(), 0, EncryptType::None));
+        wifiList.insert(first + i, blanks.back().get());
+    }
+    endInsertRows();
+    return true;
+}
+
+bool WifiListModel::removeRows(int row, int count, const QModelIndex &)
+{
+    const int removed = row < 0 ? 0 : std::min(count, rowCount() - row);
+    if (removed < 1)
+        return true;
+    beginRemoveRows({}, row, row + removed - 1);
+    wifiList.remove(row, removed);
+    endRemoveRows();
+    return true;
+}
+
+void WifiListModel::insertWifi(int row, WifiInfo *&info)
+{
+    beginResetModel();
+    wifiList.insert(std::clamp(row, 0, rowCount()), info);
+    endResetModel();
+}
+
+void WifiListModel::setWifiList(const QList<WifiInfo *> &list)
+{
+    beginResetModel();
+    wifiList = list;
+    endResetModel();
+}
+
+void WifiListModel::resetList()
+{
+    beginResetModel();
+    endResetModel();
+}
+
+bool WifiListModel::toConnect(int row)
+{
+    if (row < 0 || row >= wifiList.size()) {
+        qDebug() << "no network in row" << row;
+        return false;
+    }
+    chosen = wifiList.at(row);
+    for (WifiInfo *info : std::as_const(wifiList))
+        info->setConnectState(ConnectState::StateDisconnected);
+    chosen->setConnectState(ConnectState::StateConnecting);
+    resetList();
+
+    // Whoever taps on and on must not nest ever deeper: the first call waits for the last choice.
+    connecting.start();
+    if (waiting || !waitForConnection() || !wifiList.contains(chosen))
+        return false;
+    chosen->setConnectState(ConnectState::StateConnected);
+    resetList();
+    return true;
+}
+
+bool WifiListModel::waitForConnection()
+{
+    const QPointer<WifiListModel> self(this);
+    waiting = true;
+    QEventLoop loop;
+    while (self && connecting.isActive())
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    if (self)
+        waiting = false;
+    return !self.isNull();
+}

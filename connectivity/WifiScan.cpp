@@ -1,0 +1,56 @@
+#include "connectivity/WifiScan.h"
+
+#include "device/DevicePath.h"
+
+#include <QDebug>
+#include <QIODevice>
+
+namespace {
+constexpr int nameStart = 27;
+constexpr qsizetype mostNetworks = 1000;
+constexpr qint64 mostBytes = 8 * 1024 * 1024;
+constexpr qint64 mostBytesOfLine = 1024;
+
+QString networkName(QByteArrayView line)
+{
+    if (line.endsWith('\n'))
+        line.chop(1);
+    if (line.endsWith('\r'))
+        line.chop(1);
+    QString name = QString::fromUtf8(line).mid(nameStart);
+    name.chop(1);
+    return name;
+}
+} // namespace
+
+QString scanFilePath(const QString &directory)
+{
+    return directory + QStringLiteral("/../resource/WiFi-SSID.txt");
+}
+
+QString scanCommand(const QString &directory)
+{
+    return QStringLiteral("iwlist ") + QStringLiteral("wlan1") +
+           QStringLiteral(" scanning|grep ESSID > ") + shellQuoted(scanFilePath(directory));
+}
+
+QStringList readNetworkNames(QIODevice &scan)
+{
+    QStringList names;
+    qint64 bytesLeft = mostBytes;
+    const auto readPiece = [&] {
+        // Qt counts a terminating zero in.
+        const QByteArray piece = scan.readLine(mostBytesOfLine + 1);
+        bytesLeft -= piece.size();
+        return piece;
+    };
+    while (!scan.atEnd() && names.size() < mostNetworks && bytesLeft > 0) {
+        const QByteArray line = readPiece();
+        names.append(networkName(line));
+        for (QByteArray piece = line; !piece.isEmpty() && !piece.endsWith('\n') && bytesLeft > 0;)
+            piece = readPiece();
+    }
+    if (!scan.atEnd())
+        qDebug() << "scan result too long: only the first" << names.size() << "networks are listed";
+    return names;
+}

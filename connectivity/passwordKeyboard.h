@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+class KeyBorad;
+
+namespace Ui {
+class passwordKeyboard;
+}
+
+/// Where the password of the chosen network is typed.
+///
+/// The password is neither checked nor kept yet: being done leads back to the list of networks, as
+/// the back arrow does. GUI thread.
+class passwordKeyboard : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr bool emptiedWhenLeft = true;
+
+    explicit passwordKeyboard(QWidget *parent);
+    ~passwordKeyboard() override;
+
+signals:
+    void signal_backDefaultPage();
+    /// Never emitted; meant to hand the password on once there is a check.
+    void signal_commit(const QString &strValue);
+
+public slots:
+    void on_button_back_clicked();
+    void on_entered_password();
+    /// Opens the result of a connection; nothing calls it until there is a check.
+    void jump_wifiConnectResult_page();
+
+private:
+    std::unique_ptr<Ui::passwordKeyboard> ui;
+    KeyBorad *keyboard;
+};

@@ -1,0 +1,44 @@
+#include "connectivity/wifiConnectResult.h"
+
+#include "ui_wifiConnectResult.h"
+
+#include <QDebug>
+
+wifiConnectResult::wifiConnectResult(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::wifiConnectResult>())
+{
+    ui->setupUi(this);
+    for (QWidget *outcome : std::initializer_list<QWidget *>{
+             ui->label_fail, ui->label_success, ui->label_infoFail, ui->label_infoSuccess,
+             ui->button_forgetFail, ui->button_forgetSuccess, ui->button_retryFail})
+        outcome->hide();
+    show_connect_result();
+    connect(ui->button_forgetFail, &QPushButton::clicked, this,
+            &wifiConnectResult::forget_this_wifi);
+    connect(ui->button_forgetSuccess, &QPushButton::clicked, this,
+            &wifiConnectResult::forget_this_wifi);
+    connect(ui->button_retryFail, &QPushButton::clicked, this,
+            &wifiConnectResult::retry_wifi_connect);
+}
+
+wifiConnectResult::~wifiConnectResult() = default;
+
+void wifiConnectResult::show_connect_result()
+{
+    ui->label_success->show();
+    ui->label_infoSuccess->show();
+    ui->button_forgetSuccess->show();
+}
+
+void wifiConnectResult::on_button_back_clicked() {}
+
+void wifiConnectResult::forget_this_wifi()
+{
+    qDebug() << "forget this wifi...";
+}
+
+void wifiConnectResult::retry_wifi_connect()
+{
+    qDebug() << "retry wifi connect...";
+}

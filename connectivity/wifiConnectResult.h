@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class wifiConnectResult;
+}
+
+/// Tells whether the connection to the Internet succeeded and offers to forget the network or to
+/// try again.
+///
+/// Until a connection is really made it always shows success, and the offers are only logged.
+class wifiConnectResult : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit wifiConnectResult(QWidget *parent);
+    ~wifiConnectResult() override;
+
+public slots:
+    /// Does nothing: there is no page to go back to yet.
+    void on_button_back_clicked();
+    void forget_this_wifi();
+    void retry_wifi_connect();
+
+private:
+    void show_connect_result();
+
+    std::unique_ptr<Ui::wifiConnectResult> ui;
+};
