@@ -1,5 +1,6 @@
 #include "settings/OptionPage.h"
 
+#include "connectivity/SetWifiPage.h"
 #include "pages/DragScroll.h"
 #include "pages/PagePattern.h"
 #include "settings/Factory_Reset.h"
@@ -66,7 +67,10 @@ bool OptionPage::is_allowed_slide()
     return page == 0;
 }
 
-void OptionPage::jump_setWifi_page() {}
+void OptionPage::jump_setWifi_page()
+{
+    open<SetWifiPage>(ui->page_setWifi);
+}
 
 void OptionPage::jump_setTime_page()
 {
