@@ -11,6 +11,8 @@
 namespace {
 constexpr std::chrono::milliseconds revealTime{1000};
 constexpr int daysOfWeek = 7;
+// Where one rectangle costs more than the two markers in it, in pixels.
+constexpr int widestRepaint = 200;
 
 QString unitOf(int type)
 {
@@ -211,7 +213,7 @@ void Blackboard::paintEvent(QPaintEvent *event)
     const ChartMarker marker = markerAt(x, value);
     qDebug() << "Nearest X:" << time << "Value " << value;
     ChartPainter(&painter, frame, &gc()).drawMarker(marker);
-    paintedMarker = ChartPainter::markerRegion(marker, height());
+    paintedMarker = ChartPainter::markerRect(marker, height());
     // Whoever listens may change what lies around the chart: not under a painter at work.
     painter.end();
     emit signalTouch(float(x), time, value, marker.color, unitOf(type));
@@ -240,7 +242,15 @@ void Blackboard::followFinger(const QMouseEvent *event)
         return;
     }
     const ChartMarker marker = markerAt(screenXs[index], valueMap.value(times[index]));
-    update(paintedMarker + ChartPainter::markerRegion(marker, height()));
+    const QRect place = ChartPainter::markerRect(marker, height());
+    const QRect both = paintedMarker | place;
+    // A finger on its way needs a rectangle little wider than its marker; one that jumps, two.
+    if (both.width() <= widestRepaint) {
+        update(both);
+        return;
+    }
+    update(paintedMarker);
+    update(place);
 }
 
 void Blackboard::touchEvent(QMouseEvent *event)

@@ -5,7 +5,6 @@
 
 #include <QMap>
 #include <QPixmap>
-#include <QRegion>
 #include <QWidget>
 #include <utility>
 
@@ -113,5 +112,5 @@ private:
     QPixmap stillPart;
     ChartFrame stillFrame;
     quint64 series = 0;
-    QRegion paintedMarker;
+    QRect paintedMarker;
 };

@@ -48,8 +48,9 @@ public:
     /// The line and the ring at a touched reading.
     void drawMarker(const ChartMarker &marker);
 
-    /// The pixels that drawMarker() may touch on a chart @p height pixels high.
-    static QRegion markerRegion(const ChartMarker &marker, int height);
+    /// The pixels that drawMarker() may touch on a chart @p height pixels high: one rectangle,
+    /// because a region of several makes all painting below it slow.
+    static QRect markerRect(const ChartMarker &marker, int height);
 
 private:
     void drawHourAxis();
