@@ -9,6 +9,7 @@
 #include "tests/support/Touch.h"
 
 #include <QDateTime>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 #include <memory>
@@ -107,10 +108,14 @@ private slots:
     void dateTimePageMovesToItsOpener()
     {
         QList<QWidget *> holders;
+        QPointer<DateTimePage> page;
         for (int visit = 0; visit < 3; ++visit) {
             openSetTime();
             tap(shown("button_dateTime"));
             QVERIFY(DateTimePage::instance->isVisible());
+            if (visit == 0)
+                page = DateTimePage::instance;
+            QCOMPARE(page, DateTimePage::instance);
             QCOMPARE(menu->findChildren<DateTimePage *>().size(), 1);
             holders << DateTimePage::instance->parentWidget();
             QCOMPARE(holders.count(holders.last()), 1);
@@ -121,6 +126,7 @@ private slots:
             tap(shown("button_back"));
             QVERIFY(menu->is_allowed_slide());
             log->clear();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
         QCOMPARE(menu->findChildren<SetTimePage *>().size(), 3);
     }
