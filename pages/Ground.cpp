@@ -27,6 +27,9 @@ public:
 
 void fillGround(QWidget *page)
 {
+    // A page that exists once comes by at every showing.
+    if (page->testAttribute(Qt::WA_OpaquePaintEvent))
+        return;
     page->setAttribute(Qt::WA_OpaquePaintEvent);
     page->installEventFilter(new GroundPainter(page));
 }
