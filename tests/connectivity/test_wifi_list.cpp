@@ -9,12 +9,9 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QTimer>
+#include <list>
 
 namespace {
-constexpr auto disconnected = int(ConnectState::StateDisconnected);
-constexpr auto connected = int(ConnectState::StateConnected);
-constexpr auto connecting = int(ConnectState::StateConnecting);
-
 struct Networks
 {
     explicit Networks(WifiListModel *model) { model->setWifiList({&home, &studio, &guest}); }
@@ -43,32 +40,14 @@ class TestWifiList : public QObject
     Q_OBJECT
 
 private slots:
-    void statesAnswerTheirQueries();
     void modelKeepsTheRules();
     void rolesShowTheNetworks();
-    void rowsOutsideTheListAreHarmless();
     void connectingTakesASecond();
-    void laterChoiceTakesOver();
-    void networkOrModelMayGoWhileConnecting();
     void namesOfAScan_data();
     void namesOfAScan();
     void longScansAreCut();
     void rowsLookAsTheyShould();
 };
-
-void TestWifiList::statesAnswerTheirQueries()
-{
-    WifiInfo info("a", "MAC", 1, EncryptType::None);
-    QCOMPARE(info.getConnectState(), ConnectState::StateDisconnected);
-    const bool expected[4][3] = {
-        {false, false, false}, {true, true, false}, {true, false, false}, {false, false, true}};
-    for (int state = 0; state < 4; ++state) {
-        info.setConnectState(ConnectState(state));
-        QCOMPARE(info.isConnected(), expected[state][0]);
-        QCOMPARE(info.hasNetwork(), expected[state][1]);
-        QCOMPARE(info.isConnecting(), expected[state][2]);
-    }
-}
 
 void TestWifiList::modelKeepsTheRules()
 {
@@ -106,19 +85,11 @@ void TestWifiList::rolesShowTheNetworks()
     QCOMPARE(int(model.flags({})), 33);
     QVERIFY(!model.setData(last, "x"));
     QCOMPARE(last.data().toString(), "Guest");
-    model.removeRows(2, 1);
-    QVERIFY(!model.data(last).isValid());
-}
 
-void TestWifiList::rowsOutsideTheListAreHarmless()
-{
-    WifiListModel model;
-    Networks networks(&model);
-    QVERIFY(model.removeRows(3, 2) && model.removeRows(-1, 2) && model.removeRows(0, 0));
-    QVERIFY(model.removeRows(0, -4) && model.insertRows(0, 0));
+    // Rows outside the list are harmless.
+    QVERIFY(model.removeRows(3, 2) && model.removeRows(-1, 2) && model.removeRows(0, -4));
     QCOMPARE(model.rowCount(), 3);
-    QVERIFY(model.removeRows(1, 99));
-    QVERIFY(model.insertRows(99, 1) && model.insertRows(-9, 1));
+    QVERIFY(model.removeRows(1, 99) && model.insertRows(99, 1) && model.insertRows(-9, 1));
     QCOMPARE(column(model, Qt::DisplayRole), (QVariantList{"", "Home", ""}));
     QVERIFY(!model.toConnect(3) && !model.toConnect(-1));
 }
@@ -126,47 +97,29 @@ void TestWifiList::rowsOutsideTheListAreHarmless()
 void TestWifiList::connectingTakesASecond()
 {
     WifiListModel model;
-    Networks networks(&model);
-    networks.home.setConnectState(ConnectState::StateConnected);
+    auto networks = std::make_unique<Networks>(&model);
+    networks->home.setConnectState(ConnectState::StateConnected);
     QVariantList meanwhile;
     QTimer::singleShot(0, &model, [&] { meanwhile = column(model, Qt::CheckStateRole); });
     QElapsedTimer clock;
     clock.start();
     QVERIFY(model.toConnect(1));
     QVERIFY(clock.elapsed() >= 990);
-    QCOMPARE(meanwhile, (QVariantList{disconnected, connecting, disconnected}));
-    QCOMPARE(column(model, Qt::CheckStateRole),
-             (QVariantList{disconnected, connected, disconnected}));
-}
+    QCOMPARE(meanwhile, (QVariantList{0, 3, 0}));
+    QCOMPARE(column(model, Qt::CheckStateRole), (QVariantList{0, 1, 0}));
 
-void TestWifiList::laterChoiceTakesOver()
-{
-    WifiListModel model;
-    Networks networks(&model);
+    // A later choice takes over.
     bool later = true;
     QTimer::singleShot(100, &model, [&] { later = model.toConnect(2); });
-    QVERIFY(model.toConnect(0));
-    QVERIFY(!later);
-    QCOMPARE(column(model, Qt::CheckStateRole),
-             (QVariantList{disconnected, disconnected, connected}));
-}
+    QVERIFY(model.toConnect(0) && !later);
+    QCOMPARE(column(model, Qt::CheckStateRole), (QVariantList{0, 0, 1}));
 
-void TestWifiList::networkOrModelMayGoWhileConnecting()
-{
-    auto model = std::make_unique<WifiListModel>();
-    auto networks = std::make_unique<Networks>(model.get());
-    QTimer::singleShot(0, model.get(), [&] {
-        model->setWifiList({});
+    // The network goes meanwhile.
+    QTimer::singleShot(0, &model, [&] {
+        model.setWifiList({});
         networks.reset();
     });
-    QVERIFY(!model->toConnect(0));
-
-    networks = std::make_unique<Networks>(model.get());
-    QTimer::singleShot(0, this, [&] {
-        model.reset();
-        networks.reset();
-    });
-    QVERIFY(!model->toConnect(0));
+    QVERIFY(!model.toConnect(0));
 }
 
 void TestWifiList::namesOfAScan_data()
@@ -175,8 +128,6 @@ void TestWifiList::namesOfAScan_data()
     QTest::addColumn<QStringList>("names");
     QTest::newRow("in file order, doubles kept")
         << scanLine("B") + scanLine("A") + scanLine("B") << QStringList{"B", "A", "B"};
-    QTest::newRow("hidden") << scanLine("") << QStringList{""};
-    QTest::newRow("last line open") << scanLine("A").chopped(1) << QStringList{"A"};
     QTest::newRow("carriage return") << scanLine("A").chopped(1) + "\r\n" << QStringList{"A"};
     QTest::newRow("short lines") << QByteArray("ESSID\n\nx") << QStringList{"", "", ""};
     QTest::newRow("27 and 28 characters")
@@ -217,33 +168,30 @@ void TestWifiList::longScansAreCut()
 void TestWifiList::rowsLookAsTheyShould()
 {
     WifiListModel model;
-    struct Row
-    {
-        WifiInfo info;
-        QStyle::State style;
-    };
-    const auto row = [](const QString &name, int level, ConnectState state,
-                        QStyle::State style = QStyle::State_Enabled) {
-        Row made{WifiInfo(name, "MAC", level, EncryptType::None), style};
-        made.info.setConnectState(state);
-        return made;
-    };
     using enum ConnectState;
-    std::vector<Row> rows{
-        row("Normal", 3, StateDisconnected),
-        row("Selected", 2, StateDisconnected, QStyle::State_Selected),
-        row("Connecting", 3, StateConnecting),
-        row("Connected", 4, StateConnected),
-        row("Connected and selected", 1, StateConnectedNoNetwork, QStyle::State_Selected),
-        row("Level below one", -5, StateDisconnected),
-        row("Level above four", 9, StateDisconnected),
-        row(QString(2000, 'n'), 3, StateConnected),
-        row(QStringLiteral("שלום"), 3, StateDisconnected),
+    const struct
+    {
+        QString name;
+        int level;
+        ConnectState state;
+        QStyle::State style = QStyle::State_Enabled;
+    } rows[] = {
+        {"Normal", 3, StateDisconnected},
+        {"Selected", 2, StateDisconnected, QStyle::State_Selected},
+        {"Connecting", 3, StateConnecting},
+        {"Connected", 4, StateConnected},
+        {"Connected and selected", 1, StateConnectedNoNetwork, QStyle::State_Selected},
+        {"Level below one", -5, StateDisconnected},
+        {"Level above four", 9, StateDisconnected},
+        {QString(2000, 'n'), 3, StateConnected},
+        {"שלום", 3, StateDisconnected},
     };
-    QList<WifiInfo *> list;
-    for (Row &each : rows)
-        list.append(&each.info);
-    model.setWifiList(list);
+    std::list<WifiInfo> networks;
+    for (const auto &row : rows) {
+        WifiInfo *info = &networks.emplace_back(row.name, "MAC", row.level, EncryptType::None);
+        info->setConnectState(row.state);
+        model.insertWifi(model.rowCount(), info);
+    }
 
     const WifiListRowDelegate delegate;
     QStyleOptionViewItem option;
@@ -251,12 +199,12 @@ void TestWifiList::rowsLookAsTheyShould()
     option.font.setPixelSize(24);
     option.fontMetrics = QFontMetrics(option.font);
     QCOMPARE(delegate.sizeHint(option, model.index(0)), QSize(100, 80));
-    QImage picture(854, 80 * int(rows.size()), QImage::Format_RGB32);
+    QImage picture(854, 80 * int(std::size(rows)), QImage::Format_RGB32);
     picture.fill(QColor(33, 33, 33));
     QPainter painter(&picture);
-    for (int i = 0; i < int(rows.size()); ++i) {
+    for (int i = 0; i < int(std::size(rows)); ++i) {
         option.rect = QRect(0, 80 * i, 854, 80);
-        option.state = rows[std::size_t(i)].style;
+        option.state = rows[i].style;
         delegate.paint(&painter, option, model.index(i));
     }
     painter.end();

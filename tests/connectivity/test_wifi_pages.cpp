@@ -42,25 +42,19 @@ void scanFinds(const QList<QByteArray> &names)
     Environment::writeDeviceFile("/scanner/result", result);
 }
 
-QList<QByteArray> manyNetworks()
-{
-    QList<QByteArray> names;
-    for (int i = 0; i < 500; ++i)
-        names.append("Network " + QByteArray::number(i));
-    return names;
-}
-
-// The page on a screen of its own.
+// The page in the holder of a menu.
 struct Screen
 {
     Screen()
     {
+        auto *holder = new QWidget;
+        window.addWidget(new QWidget);
+        window.addWidget(holder);
         window.resize(854, 480);
-        page = new SetWifiPage(&window);
-        fillGround(page);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window))
             qFatal("no window");
+        page = openPage<SetWifiPage>(&window, &window, holder, &QWidget::update);
         list = page->findChild<QListView *>("listView");
     }
 
@@ -76,7 +70,7 @@ struct Screen
     }
     qsizetype passwordPages() const { return page->findChildren<passwordKeyboard *>().size(); }
 
-    QWidget window;
+    QStackedWidget window;
     QPointer<SetWifiPage> page;
     QListView *list;
 };
@@ -90,7 +84,6 @@ private slots:
     void initTestCase() { installScanner(); }
     void init() { QDir().mkpath("../resource"); }
     void scanIsListed();
-    void withoutAResultThereIsNoWifi_data();
     void withoutAResultThereIsNoWifi();
     void workingDirectoryIsNotExecuted();
     void tapOpensThePasswordPage();
@@ -98,8 +91,6 @@ private slots:
     void pageMayGoWhileConnecting();
     void pageMayBeLeftWhileConnecting();
     void dragScrollsAndChoosesNothing();
-    void emptySelectionIsIgnored();
-    void timerAddsAPlaceholder();
     void resultPageShowsSuccess();
 };
 
@@ -115,32 +106,31 @@ void TestWifiPages::scanIsListed()
     QCOMPARE(screen.name(2), "it's \"mine\"");
     QVERIFY(visibleChild(screen.page, "scrollArea") && !visibleChild(screen.page, "label_noWifi"));
     QVERIFY(log.contains("strEverySSIDName \"Home\""));
-}
 
-void TestWifiPages::withoutAResultThereIsNoWifi_data()
-{
-    QTest::addColumn<bool>("folder");
-    QTest::newRow("nothing found") << true;
-    QTest::newRow("no folder to write to") << false;
+    screen.page->onListWifiItemClicked({}, {});
+    QCOMPARE(screen.passwordPages(), 0);
+    screen.page->startTimer(1);
+    QTRY_VERIFY(screen.list->model()->rowCount() > 4);
+    QCOMPARE(screen.name(0), "A");
 }
 
 void TestWifiPages::withoutAResultThereIsNoWifi()
 {
-    QFETCH(bool, folder);
     scanFinds({});
     write("../resource/WiFi-SSID.txt", "the result of an earlier scan");
-    if (!folder)
-        QVERIFY(QDir("../resource").removeRecursively());
     MessageLog log;
-    Screen screen;
-    for (const char *name : {"label_noWifi", "icon_noWifi", "info_noWifi"})
-        QVERIFY(visibleChild(screen.page, name));
-    QVERIFY(!visibleChild(screen.page, "listView") && !visibleChild(screen.page, "scrollArea"));
-    QVERIFY(log.contains("file zize =  0"));
-
-    QSignalSpy back(screen.page, &SetWifiPage::signal_backDefaultPage);
-    tap(visibleChild(screen.page, "button_back"));
-    QCOMPARE(back.count(), 1);
+    for (const bool folder : {true, false}) {
+        if (!folder)
+            QVERIFY(QDir("../resource").removeRecursively());
+        Screen screen;
+        for (const char *name : {"label_noWifi", "icon_noWifi", "info_noWifi"})
+            QVERIFY(visibleChild(screen.page, name));
+        QVERIFY(!visibleChild(screen.page, "listView") && !visibleChild(screen.page, "scrollArea"));
+        QSignalSpy back(screen.page, &SetWifiPage::signal_backDefaultPage);
+        tap(visibleChild(screen.page, "button_back"));
+        QCOMPARE(back.count(), 1);
+    }
+    QCOMPARE(log.count("file zize =  0"), 2);
 }
 
 void TestWifiPages::workingDirectoryIsNotExecuted()
@@ -212,24 +202,17 @@ void TestWifiPages::pageMayGoWhileConnecting()
 void TestWifiPages::pageMayBeLeftWhileConnecting()
 {
     scanFinds({"Home"});
-    QStackedWidget menu;
-    auto *holder = new QWidget;
-    menu.addWidget(new QWidget);
-    menu.addWidget(holder);
-    menu.resize(854, 480);
-    menu.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
-    auto *page = openPage<SetWifiPage>(&menu, &menu, holder, &QWidget::update);
+    Screen screen;
     MessageLog log;
-    QTimer::singleShot(100, page, [&] { tapAt(&menu, {40, 40}); });
-    tapAt(&menu, {400, 120});
+    QTimer::singleShot(100, screen.page, [&] { tapAt(&screen.window, {40, 40}); });
+    tapAt(&screen.window, screen.rowAt(0));
     QCOMPARE(log.count("Timer Killed"), 1);
-    QTRY_VERIFY(page->findChildren<QWidget *>().isEmpty());
+    QTRY_VERIFY(screen.page->findChildren<QWidget *>().isEmpty());
 }
 
 void TestWifiPages::dragScrollsAndChoosesNothing()
 {
-    scanFinds(manyNetworks());
+    scanFinds(QList<QByteArray>(500, "Network"));
     Screen screen;
     QScrollBar *bar = screen.list->verticalScrollBar();
     QCOMPARE(bar->maximum(), 500 * 80 - 400);
@@ -245,24 +228,6 @@ void TestWifiPages::dragScrollsAndChoosesNothing()
     releaseAt(&screen.window, screen.rowAt(2) + QPoint(6, 0));
     QCOMPARE(screen.state(102), "1");
     QCOMPARE(bar->value(), 8000);
-}
-
-void TestWifiPages::emptySelectionIsIgnored()
-{
-    scanFinds({"Home"});
-    Screen screen;
-    screen.page->onListWifiItemClicked({}, {});
-    QCOMPARE(screen.passwordPages(), 0);
-}
-
-void TestWifiPages::timerAddsAPlaceholder()
-{
-    scanFinds({"Home"});
-    Screen screen;
-    const int timer = screen.page->startTimer(1);
-    QTRY_VERIFY(screen.list->model()->rowCount() >= 3);
-    screen.page->killTimer(timer);
-    QCOMPARE(screen.name(0), "A");
 }
 
 void TestWifiPages::resultPageShowsSuccess()
