@@ -57,5 +57,5 @@ private:
 
     std::unique_ptr<Ui::BaseScene> ui;
     std::vector<QWidget *> ownGround;
-    HistoryPage *historyPage;
+    HistoryPage *historyPage = nullptr;
 };

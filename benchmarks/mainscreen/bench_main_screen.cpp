@@ -82,7 +82,7 @@ void slideFrame(benchmark::State &state)
 // One step of the history page on its way in.
 void historyFrame(benchmark::State &state)
 {
-    constexpr double limit = 15;
+    constexpr double limit = 30;
     const Screen screen;
     auto *history = screen.view->overlay()->findChild<QWidget *>(QStringLiteral("page_history"));
     history->move(854, 0);
