@@ -1,4 +1,342 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="zh_CN">
+<context>
+    <name>BaseScene</name>
+    <message>
+        <source>PM 2.5</source>
+        <translation>PM 2.5</translation>
+    </message>
+    <message>
+        <source>567</source>
+        <translation>567</translation>
+    </message>
+    <message>
+        <source>重度污染</source>
+        <translation>重度污染</translation>
+    </message>
+    <message>
+        <source>27</source>
+        <translation>27</translation>
+    </message>
+    <message>
+        <source>温度适宜</source>
+        <translation>溫度適宜</translation>
+    </message>
+    <message>
+        <source>冷</source>
+        <translation>冷</translation>
+    </message>
+    <message>
+        <source>湿度适宜</source>
+        <translation>濕度適宜</translation>
+    </message>
+    <message>
+        <source>十分钟前</source>
+        <translation>十分鐘前</translation>
+    </message>
+</context>
+<context>
+    <name>DateTimePage</name>
+    <message>
+        <source>日期和时间</source>
+        <translation>日期和時間</translation>
+    </message>
+</context>
+<context>
+    <name>FactoryReset_Confirm</name>
+    <message>
+        <source>确定要恢复出厂设置吗？</source>
+        <translation>確定要恢復原廠設定嗎？</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>確定</translation>
+    </message>
+</context>
+<context>
+    <name>Factory_Reset</name>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>恢復原廠設定</translation>
+    </message>
+    <message>
+        <source>恢复出厂设置，将会抹去全部用户数据。</source>
+        <translation>恢復原廠設定，將會抹除全部使用者資料。</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>7 天</source>
+        <translation>7 天</translation>
+    </message>
+    <message>
+        <source>24小时</source>
+        <translation>24小時</translation>
+    </message>
+    <message>
+        <source>13日</source>
+        <translation>13日</translation>
+    </message>
+    <message>
+        <source>12日</source>
+        <translation>12日</translation>
+    </message>
+    <message>
+        <source>11日</source>
+        <translation>11日</translation>
+    </message>
+    <message>
+        <source>10日</source>
+        <translation>10日</translation>
+    </message>
+    <message>
+        <source>9日</source>
+        <translation>9日</translation>
+    </message>
+    <message>
+        <source>8日</source>
+        <translation>8日</translation>
+    </message>
+    <message>
+        <source>7日</source>
+        <translation>7日</translation>
+    </message>
+</context>
+<context>
+    <name>OptionPage</name>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>手机 App</source>
+        <translation>手機 App</translation>
+    </message>
+    <message>
+        <source>尚未配对</source>
+        <translation>尚未配對</translation>
+    </message>
+    <message>
+        <source>亮度</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>夜间模式</source>
+        <translation>夜間模式</translation>
+    </message>
+    <message>
+        <source>22:30~6:30</source>
+        <translation>22:30~6:30</translation>
+    </message>
+    <message>
+        <source>所在地</source>
+        <translation>所在地</translation>
+    </message>
+    <message>
+        <source>日期时间</source>
+        <translation>日期時間</translation>
+    </message>
+    <message>
+        <source>自动获取</source>
+        <translation>自動取得</translation>
+    </message>
+    <message>
+        <source>℉</source>
+        <translation>℉</translation>
+    </message>
+    <message>
+        <source>℃</source>
+        <translation>℃</translation>
+    </message>
+    <message>
+        <source>固件版本</source>
+        <translation>韌體版本</translation>
+    </message>
+    <message>
+        <source>发现新版本</source>
+        <translation>發現新版本</translation>
+    </message>
+    <message>
+        <source>系统语言</source>
+        <translation>系統語言</translation>
+    </message>
+    <message>
+        <source>中文简体</source>
+        <translation>中文簡體</translation>
+    </message>
+    <message>
+        <source>恢复出厂设置</source>
+        <translation>恢復原廠設定</translation>
+    </message>
+</context>
+<context>
+    <name>SetTimePage</name>
+    <message>
+        <source>日期时间</source>
+        <translation>日期時間</translation>
+    </message>
+    <message>
+        <source>24 小时制</source>
+        <translation>24 小時制</translation>
+    </message>
+    <message>
+        <source>关</source>
+        <translation>關</translation>
+    </message>
+    <message>
+        <source>开</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>自动获取时间</source>
+        <translation>自動取得時間</translation>
+    </message>
+    <message>
+        <source>时区</source>
+        <translation>時區</translation>
+    </message>
+    <message>
+        <source>GMT+8:00 上海</source>
+        <translation>GMT+8:00 上海</translation>
+    </message>
+    <message>
+        <source>日期和时间</source>
+        <translation>日期和時間</translation>
+    </message>
+</context>
+<context>
+    <name>SetWifiPage</name>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>没有可连接的 Wi-Fi</source>
+        <translation>沒有可連接的 Wi-Fi</translation>
+    </message>
+</context>
+<context>
+    <name>TimeZonePage</name>
+    <message>
+        <source>时区</source>
+        <translation>時區</translation>
+    </message>
+</context>
+<context>
+    <name>adjustLight</name>
+    <message>
+        <source>亮度</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>自动调节亮度</source>
+        <translation>自動調節亮度</translation>
+    </message>
+    <message>
+        <source>关</source>
+        <translation>關</translation>
+    </message>
+    <message>
+        <source>开</source>
+        <translation>開</translation>
+    </message>
+</context>
+<context>
+    <name>nightModePage</name>
+    <message>
+        <source>夜间模式</source>
+        <translation>夜間模式</translation>
+    </message>
+    <message>
+        <source>自动调节亮度</source>
+        <translation>自動調節亮度</translation>
+    </message>
+    <message>
+        <source>手动开启夜间模式</source>
+        <translation>手動開啟夜間模式</translation>
+    </message>
+    <message>
+        <source>关</source>
+        <translation>關</translation>
+    </message>
+    <message>
+        <source>开</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>开始时间</source>
+        <translation>開始時間</translation>
+    </message>
+    <message>
+        <source>22:30</source>
+        <translation>22:30</translation>
+    </message>
+    <message>
+        <source>结束时间</source>
+        <translation>結束時間</translation>
+    </message>
+    <message>
+        <source>06:30</source>
+        <translation>06:30</translation>
+    </message>
+</context>
+<context>
+    <name>setLanguagePage</name>
+    <message>
+        <source>请选择系统语言</source>
+        <translation>請選擇系統語言</translation>
+    </message>
+    <message>
+        <source>中文（简体）</source>
+        <translation>中文（简体）</translation>
+    </message>
+    <message>
+        <source>中文（繁體）</source>
+        <translation>中文（繁體）</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+</context>
+<context>
+    <name>timePage</name>
+    <message>
+        <source>开始</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>结束</source>
+        <translation>結束</translation>
+    </message>
+</context>
+<context>
+    <name>wifiConnectResult</name>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;已连接互联网&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;已連接網際網路&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;无法连接互联网&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;無法連接網際網路&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>忘记此 WI-FI</source>
+        <translation>忘記此 WI-FI</translation>
+    </message>
+    <message>
+        <source>重新连接</source>
+        <translation>重新連接</translation>
+    </message>
+</context>
 </TS>
