@@ -3,6 +3,8 @@
 namespace {
 constexpr int firstRowTop = 176;
 constexpr int rowHeight = 60;
+constexpr const char *spaceText = QT_TRANSLATE_NOOP("KeyBorad", "空格");
+constexpr const char *doneText = QT_TRANSLATE_NOOP("KeyBorad", "完成");
 
 struct WideKey
 {
@@ -26,8 +28,8 @@ const QList<KeyRow> lowercaseRows{
     {4, {{KeyKind::Shift, "button_shiftNormal"}}, "zxcvbnm", {{KeyKind::Delete, "button_delete"}}},
     {4,
      {{KeyKind::Function, "button_symbol", "#+="},
-      {KeyKind::Blank, "button_blank", "空格"},
-      {KeyKind::Enter, "button_enter", "完成"}},
+      {KeyKind::Blank, "button_blank", spaceText},
+      {KeyKind::Enter, "button_enter", doneText}},
      "",
      {}},
 };
@@ -42,8 +44,8 @@ const QList<KeyRow> uppercaseRows{
      {{KeyKind::Delete, "button_delete_2"}}},
     {4,
      {{KeyKind::Function, "button_symbol_2", "#+="},
-      {KeyKind::Blank, "button_blank_2", "空格"},
-      {KeyKind::Enter, "button_enter_2", "完成"}},
+      {KeyKind::Blank, "button_blank_2", spaceText},
+      {KeyKind::Enter, "button_enter_2", doneText}},
      "",
      {}},
 };
@@ -55,8 +57,8 @@ const QList<KeyRow> symbolRows{
     {68, {}, "\":;?!,.", {{KeyKind::Delete, "button_delete_3"}}},
     {4,
      {{KeyKind::Function, "button_character", "abc"},
-      {KeyKind::Blank, "button_blank_3", "空格"},
-      {KeyKind::Enter, "button_enter_3", "完成"}},
+      {KeyKind::Blank, "button_blank_3", spaceText},
+      {KeyKind::Enter, "button_enter_3", doneText}},
      "",
      {}},
 };

@@ -21,7 +21,7 @@ Rectangle {
             delegate: SpinnerText {
                 required property int index
 
-                text: index === 0 ? "上午" : "下午"
+                text: index === 0 ? qsTr("上午") : qsTr("下午")
                 distance: spinner.distanceTo(index)
             }
         }

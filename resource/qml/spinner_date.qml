@@ -7,13 +7,15 @@ Rectangle {
     id: root
 
     property date today: new Date()
+    readonly property var weekdays: [qsTr("星期天"), qsTr("星期一"), qsTr("星期二"),
+        qsTr("星期三"), qsTr("星期四"), qsTr("星期五"), qsTr("星期六")]
 
     function dayText(row: int): string {
         const offset = row < 182 ? row : row - 365
         const day = new Date(today.getFullYear(), today.getMonth(), today.getDate() + offset)
         const twoDigits = number => String(number).padStart(2, "0")
-        return twoDigits(day.getMonth() + 1) + "月" + twoDigits(day.getDate()) + "日 星期"
-                + "天一二三四五六"[day.getDay()]
+        return twoDigits(day.getMonth() + 1) + qsTr("月") + twoDigits(day.getDate()) + qsTr("日 ")
+                + weekdays[day.getDay()]
     }
 
     width: 350

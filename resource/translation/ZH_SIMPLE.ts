@@ -109,6 +109,17 @@
     </message>
 </context>
 <context>
+    <name>KeyBorad</name>
+    <message>
+        <source>空格</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>完成</translation>
+    </message>
+</context>
+<context>
     <name>OptionPage</name>
     <message>
         <source>设置</source>
@@ -307,6 +318,56 @@
     <message>
         <source>English</source>
         <translation>English</translation>
+    </message>
+</context>
+<context>
+    <name>spinner_amp</name>
+    <message>
+        <source>上午</source>
+        <translation>上午</translation>
+    </message>
+    <message>
+        <source>下午</source>
+        <translation>下午</translation>
+    </message>
+</context>
+<context>
+    <name>spinner_date</name>
+    <message>
+        <source>星期天</source>
+        <translation>星期天</translation>
+    </message>
+    <message>
+        <source>星期一</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>星期二</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>星期三</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>星期四</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>星期五</source>
+        <translation>星期五</translation>
+    </message>
+    <message>
+        <source>星期六</source>
+        <translation>星期六</translation>
+    </message>
+    <message>
+        <source>月</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>日 </source>
+        <translation>日 </translation>
     </message>
 </context>
 <context>
