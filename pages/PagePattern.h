@@ -2,6 +2,7 @@
 
 #include "pages/EmptyPage.h"
 #include "pages/Ground.h"
+#include "pages/PageBehind.h"
 
 #include <QStackedWidget>
 
@@ -24,8 +25,8 @@ void showPage(Page *page, Opener *opener, QStackedWidget *stack, QWidget *holder
 /// The way every sub-page is opened.
 ///
 /// Builds a fresh @p Page inside @p holder and shows it. The pages of earlier visits stay until the
-/// opener goes; of a Page with a member named emptiedWhenLeft only the empty frame stays, see
-/// emptyPage(). Returns the new page, owned by @p holder.
+/// opener goes, made cheap by lightenPageBehind(); of a Page with a member named emptiedWhenLeft
+/// only the empty frame stays, see emptyPage(). Returns the new page, owned by @p holder.
 template <class Page, class Opener>
 Page *openPage(Opener *opener, QStackedWidget *stack, QWidget *holder, void (Opener::*goBack)())
 {
@@ -33,6 +34,8 @@ Page *openPage(Opener *opener, QStackedWidget *stack, QWidget *holder, void (Ope
     showPage(page, opener, stack, holder, goBack);
     if constexpr (requires { Page::emptiedWhenLeft; })
         QObject::connect(page, &Page::signal_backDefaultPage, page, [page] { emptyPage(page); });
+    else
+        lightenPageBehind(page);
     return page;
 }
 

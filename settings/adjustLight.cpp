@@ -34,7 +34,7 @@ QString sliderStyle(const char *left, const char *right)
     return QStringLiteral(
                "QSlider::groove { background: transparent; }"
                "QSlider::handle { width: 72px;"
-               " image: url(:/resource/images/optionPage/adjustLight/sliderHandle.png); }"
+               " border-image: url(:/resource/images/optionPage/adjustLight/sliderHandle.png); }"
                "QSlider::sub-page { margin: 30px 0px 30px 36px; border-width: 0px 6px;"
                " border-image: url(:/resource/images/optionPage/adjustLight/%1) 0 6; }"
                "QSlider::add-page { margin: 30px 36px 30px 0px; border-width: 0px 6px;"
