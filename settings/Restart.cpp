@@ -42,8 +42,7 @@ void restartProgram()
     if (runScript())
         return;
 
-    // The closing of the last window has asked the program to quit.
-    QCoreApplication::removePostedEvents(qApp, QEvent::Quit);
+    // Shown before the event loop turns, they also keep it from ending with its last window.
     for (const QPointer<QWidget> &window : windows) {
         if (window)
             window->show();

@@ -74,8 +74,11 @@ private slots:
             QFile::remove(Environment::deviceRoot() + "/bin/restartZellQt.sh");
         MessageLog log;
         // Leaves from within an event loop, which the closing of the last window would end.
-        QTimer::singleShot(0, page.get(), [this] { leave(); });
-        QTimer::singleShot(1, qApp, [] { QCoreApplication::exit(1); });
+        QTimer::singleShot(0, page.get(), [this] {
+            leave();
+            QTimer::singleShot(
+                0, qApp, [] { QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(1); }); });
+        });
         QCOMPARE(QCoreApplication::exec(), 1);
         QVERIFY(page->isVisible());
         QCOMPARE(log.count("restart script failed"), 1);

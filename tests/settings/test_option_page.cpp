@@ -6,11 +6,38 @@
 #include "tests/support/Touch.h"
 
 #include <QCheckBox>
+#include <QElapsedTimer>
+#include <QMetaMethod>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStackedWidget>
+
+namespace {
+/// How long no widget of the program has been painted.
+class SinceLastPaint : public QObject
+{
+public:
+    SinceLastPaint()
+    {
+        time.start();
+        qApp->installEventFilter(this);
+    }
+    qint64 milliseconds() const { return time.elapsed(); }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            time.start();
+        return false;
+    }
+
+private:
+    QElapsedTimer time;
+};
+} // namespace
 
 class TestOptionPage : public QObject
 {
@@ -19,8 +46,10 @@ class TestOptionPage : public QObject
 private slots:
     void init()
     {
-        page = std::make_unique<OptionPage>();
-        page->show();
+        window = std::make_unique<QWidget>();
+        window->resize(854, 480);
+        page = new OptionPage(window.get());
+        window->show();
         scrollBar = page->findChild<QScrollArea *>("scrollArea")->verticalScrollBar();
     }
 
@@ -75,41 +104,57 @@ private slots:
     void pagesLookAsDrawn()
     {
         QFETCH(QString, jump);
-        QMetaObject::invokeMethod(page.get(), qPrintable(jump));
+        QMetaObject::invokeMethod(page, qPrintable(jump));
         const QString problem =
-            pictureDifference(page->grab().toImage(), ZELL_REFERENCE_DIR, jump + ".png");
+            pictureDifference(window->grab().toImage(), ZELL_REFERENCE_DIR, jump + ".png");
         QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    }
+
+    void openPagesPaintNothingByThemselves()
+    {
+        std::vector<std::unique_ptr<OptionPage>> menus;
+        const QMetaObject &meta = OptionPage::staticMetaObject;
+        for (int index = meta.methodOffset(); index < meta.methodCount(); ++index) {
+            if (!meta.method(index).name().startsWith("jump_"))
+                continue;
+            menus.push_back(std::make_unique<OptionPage>());
+            menus.back()->show();
+            meta.method(index).invoke(menus.back().get());
+        }
+        QCOMPARE(menus.size(), 9U);
+        const SinceLastPaint quiet;
+        QTRY_VERIFY2(quiet.milliseconds() > 1200, "a page paints at least once a second");
     }
 
     void confirmationOfTheResetStays()
     {
-        QMetaObject::invokeMethod(page.get(), "jump_resetFactory_page");
-        tapAt(page.get(), {427, 388});
+        QMetaObject::invokeMethod(page, "jump_resetFactory_page");
+        tapAt(page, {427, 388});
         MessageLog log;
-        tapAt(page.get(), {567, 318});
+        tapAt(page, {567, 318});
         QCOMPARE(log.lines(), QStringList{"start factory reset..."});
-        QVERIFY(visibleChild(page.get(), "FactoryReset_Confirm"));
-        tapAt(page.get(), {287, 318});
-        QVERIFY(!visibleChild(page.get(), "FactoryReset_Confirm"));
-        QVERIFY(visibleChild(page.get(), "label_factoryReset"));
-        tapAt(page.get(), {427, 388});
+        QVERIFY(visibleChild(page, "FactoryReset_Confirm"));
+        tapAt(page, {287, 318});
+        QVERIFY(!visibleChild(page, "FactoryReset_Confirm"));
+        QVERIFY(visibleChild(page, "label_factoryReset"));
+        tapAt(page, {427, 388});
         QCOMPARE(page->findChildren<QWidget *>("FactoryReset_Confirm").size(), 2);
     }
 
     void dragScrollsOverTilesAndGainsSpeed()
     {
         QSignalSpy taps(page->findChild<QWidget *>("option_setLocation"), SIGNAL(clicked()));
-        pressAt(page.get(), {200, 360});
-        moveTo(page.get(), {200, 340});
+        pressAt(page, {200, 360});
+        moveTo(page, {200, 340});
         QTRY_COMPARE(scrollBar->value(), 20);
-        moveTo(page.get(), {200, 339});
+        moveTo(page, {200, 339});
         QTRY_COMPARE(scrollBar->value(), 41);
-        moveTo(page.get(), {200, 260});
+        moveTo(page, {200, 260});
         QTRY_COMPARE(scrollBar->value(), 141);
-        releaseAt(page.get(), {200, 260});
+        releaseAt(page, {200, 260});
         QTRY_COMPARE(scrollBar->value(), scrollBar->maximum());
         QCOMPARE(taps.size(), 0);
-        drag(page.get(), {600, 100}, {600, 400});
+        drag(page, {600, 100}, {600, 400});
         QTRY_COMPARE(scrollBar->value(), 0);
     }
 
@@ -136,19 +181,20 @@ private slots:
 
     void backLeadsToTheMainScreen()
     {
-        MainWindow window;
-        window.show();
-        auto *stack = window.findChild<QStackedWidget *>("stackedWidget");
-        QMetaObject::invokeMethod(&window, "jump_toOption");
+        MainWindow mainWindow;
+        mainWindow.show();
+        auto *stack = mainWindow.findChild<QStackedWidget *>("stackedWidget");
+        QMetaObject::invokeMethod(&mainWindow, "jump_toOption");
         QTRY_COMPARE(stack->currentWidget()->objectName(), "page_option");
-        auto *menu = window.findChild<OptionPage *>();
+        auto *menu = mainWindow.findChild<OptionPage *>();
         QVERIFY(menu->isVisible() && menu->is_allowed_slide());
         tap(visibleChild(menu, "button_back"));
         QCOMPARE(stack->currentWidget()->objectName(), "page_main");
     }
 
 private:
-    std::unique_ptr<OptionPage> page;
+    std::unique_ptr<QWidget> window;
+    OptionPage *page = nullptr;
     QScrollBar *scrollBar = nullptr;
 };
 
