@@ -81,7 +81,7 @@ void nearestDotOf10080(benchmark::State &state)
     QList<int> times;
     QList<int> xs;
     for (int minute = 0; minute < minutesOfAWeek; ++minute) {
-        times.append(int(start + 60 * minute));
+        times.append(int(start + qint64(60) * minute));
         xs.append(ChartScale::truncated(scale.toX(times.last())));
     }
     // A finger right of all dots passes every one of the week.

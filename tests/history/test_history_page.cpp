@@ -112,7 +112,7 @@ private slots:
     {
         QCOMPARE(page->findChild<QRadioButton *>("radio_day0")->text(), QString("21 日"));
         QCOMPARE(page->findChild<QRadioButton *>("radio_day6")->text(), QString("15 日"));
-        now = afternoon + 8 * 3600 - 1;
+        now = afternoon + 28800 - 1;
         page->loadData();
         now += 1;
         QTRY_COMPARE(page->findChild<QRadioButton *>("radio_day0")->text(), QString("22 日"));
