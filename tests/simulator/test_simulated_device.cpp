@@ -1,0 +1,208 @@
+#include "simulator/DeviceRoot.h"
+#include "simulator/FirmwareAnswer.h"
+#include "simulator/Scenario.h"
+#include "simulator/WifiScan.h"
+#include "tests/support/Environment.h"
+
+#include <QProcess>
+
+using namespace simulator;
+
+// The parts that need no running device: curves, frames, texts, scans, scenarios, HTTP answers.
+class TestSimulatedDevice : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void curveTakesADay()
+    {
+        const DayCurve curve{.mean = 20, .swing = 5, .peakHour = 15, .ripple = 0};
+        QCOMPARE(curve.at(15 * 3600.0, 1), 25.0);
+        QCOMPARE(curve.at(3 * 3600.0, 1), 15.0);
+        QCOMPARE(curve.at(39 * 3600.0, 1), 25.0);
+        const DayCurve rippled{.mean = 20, .swing = 0, .peakHour = 0, .ripple = 1};
+        QCOMPARE(rippled.at(100, 7), rippled.at(100, 7));
+        QVERIFY(rippled.at(100, 7) != rippled.at(100, 8));
+    }
+
+    void checksumSkipsWhatTheSensorSkips_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<int>("byte");
+        QTest::addColumn<int>("sum");
+        // "Z", 0xA5 and zeros: 0x5A + 0xA5 = 0xFF
+        QTest::newRow("nothing else") << 2 << 0 << 0xFF;
+        QTest::newRow("second of a group") << 5 << 3 << 0x102;
+        QTest::newRow("third of a group") << 6 << 3 << 0x3FF;
+        QTest::newRow("third, wrapping") << 54 << 0xFF << 0xFFFF;
+        QTest::newRow("fourth of a group") << 3 << 3 << 0xFF;
+        QTest::newRow("last group's fourth") << 55 << 3 << 0xFF;
+        QTest::newRow("behind the groups") << 56 << 3 << 0xFF;
+    }
+
+    void checksumSkipsWhatTheSensorSkips()
+    {
+        QFETCH(int, offset);
+        QFETCH(int, byte);
+        QFETCH(int, sum);
+        QByteArray frame(FRAME_SIZE, '\0');
+        frame[0] = 'Z';
+        frame[1] = char(0xA5);
+        frame[offset] = char(byte);
+        QCOMPARE(int(sensorChecksum(frame)), sum);
+        frame[10] = 1; // one more than 16 bits hold in the wrapping row
+        QCOMPARE(int(sensorChecksum(frame)), (sum + 0x100) % 0x10000);
+    }
+
+    void faultsSpoilTheBurst_data()
+    {
+        QTest::addColumn<FrameFault>("fault");
+        QTest::addColumn<QList<int>>("sizes");
+        QTest::addColumn<bool>("goodHeader");
+        QTest::addColumn<bool>("goodChecksum");
+        QTest::newRow("none") << FrameFault::None << QList{60} << true << true;
+        QTest::newRow("checksum") << FrameFault::BadChecksum << QList{60} << true << false;
+        QTest::newRow("header") << FrameFault::BadHeader << QList{60} << false << true;
+        QTest::newRow("split") << FrameFault::Split << QList{30, 30} << true << true;
+        QTest::newRow("merged") << FrameFault::Merged << QList{120} << true << true;
+        QTest::newRow("short") << FrameFault::Short << QList{59} << true << false;
+        QTest::newRow("long") << FrameFault::Long << QList{61} << true << true;
+        QTest::newRow("noise") << FrameFault::Noise << QList{20} << false << false;
+    }
+
+    void faultsSpoilTheBurst()
+    {
+        QFETCH(FrameFault, fault);
+        QFETCH(QList<int>, sizes);
+        QFETCH(bool, goodHeader);
+        QFETCH(bool, goodChecksum);
+        QRandomGenerator random(1);
+        const QList<QByteArray> bursts = sensorBursts(fault, 0x01020304, random);
+        QByteArray all;
+        for (qsizetype i = 0; i < bursts.size(); ++i) {
+            QCOMPARE(bursts.at(i).size(), sizes.value(i));
+            all += bursts.at(i);
+        }
+        QCOMPARE(bursts.size(), sizes.size());
+        QCOMPARE(all.startsWith("Z\xA5"), goodHeader);
+        if (fault == FrameFault::Noise)
+            return;
+        QCOMPARE(all.mid(16, 4), QByteArray("\x04\x03\x02\x01"));
+        const quint16 sent =
+            quint16(uchar(all.at(58)) << 8 | uchar(all.size() > 59 ? all.at(59) : 0));
+        all[1] = char(0xA5);
+        if (fault != FrameFault::BadHeader && fault != FrameFault::Short)
+            QCOMPARE(sensorChecksum(all) == sent, goodChecksum);
+    }
+
+    void climateKeepsItsColumns_data()
+    {
+        QTest::addColumn<double>("celsius");
+        QTest::addColumn<double>("percent");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("plain") << 23.456 << 45.678 << QByteArray("temp = 23456, humidity = 45678");
+        QTest::newRow("short") << 0.95 << 5.0 << QByteArray("temp = 00950, humidity = 05000");
+        QTest::newRow("zero") << -0.0001 << 0.0 << QByteArray("temp = 00000, humidity = 00000");
+        QTest::newRow("negative") << -5.25 << 9.9996
+                                  << QByteArray("temp = -5250, humidity = 10000");
+        QTest::newRow("little below zero")
+            << -0.25 << 45.0 << QByteArray("temp = -0250, humidity = 45000");
+        QTest::newRow("limits") << -12.3 << 100.0 << QByteArray("temp = -9999, humidity = 99999");
+    }
+
+    void climateKeepsItsColumns()
+    {
+        QFETCH(double, celsius);
+        QFETCH(double, percent);
+        QTEST(climateText(celsius, percent), "text");
+    }
+
+    void brokenTextsAreBroken()
+    {
+        QRandomGenerator random(1);
+        const QByteArray good = climateText(23.456, 45.678);
+        QCOMPARE(brokenText(TextFault::None, good, random), good);
+        QCOMPARE(brokenText(TextFault::Empty, good, random), QByteArray());
+        QCOMPARE(brokenText(TextFault::Short, good, random), QByteArray("temp = 234"));
+        QCOMPARE(brokenText(TextFault::Letters, good, random),
+                 QByteArray("temp = xxxxx, humidity = xxxxx"));
+        QVERIFY(!brokenText(TextFault::Binary, good, random).startsWith("temp"));
+        QVERIFY(brokenText(TextFault::Huge, good, random).size() > 1000000);
+        QCOMPARE(lightText(-3), QByteArray("0"));
+    }
+
+    // The device's program cuts the names out of the scan with grep and two fixed columns.
+    void scanShowsTheNetworks_data()
+    {
+        QTest::addColumn<QStringList>("networks");
+        for (const Scenario &scenario : scenarios())
+            QTest::newRow(qPrintable(scenario.name)) << scenario.networks;
+    }
+
+    void scanShowsTheNetworks()
+    {
+        QFETCH(QStringList, networks);
+        QVERIFY(replaceFile("iwlist", wifiScannerScript(networks), true));
+        QProcess shell;
+        shell.start("/bin/sh", {"-c", "./iwlist wlan1 scanning|grep ESSID"});
+        QVERIFY(shell.waitForFinished());
+        QStringList names = QString::fromUtf8(shell.readAllStandardOutput()).split('\n');
+        names.removeLast();
+        for (QString &name : names)
+            name = name.mid(27).chopped(1);
+        QCOMPARE(names, networks);
+        QCOMPARE(shell.readAllStandardError().isEmpty(), !networks.isEmpty());
+    }
+
+    void scenariosStayWithinTheColumns()
+    {
+        for (const Scenario &scenario : scenarios()) {
+            for (int minute = 0; minute < 24 * 60; ++minute) {
+                const double celsius = scenario.temperature.at(minute * 60, 1);
+                QVERIFY2(celsius > -9.999 && celsius < 50, qPrintable(scenario.name));
+                QCOMPARE(celsius < 0, scenario.name == "cold");
+                const double percent = scenario.humidity.at(minute * 60, 1);
+                QVERIFY2(percent > 0 && percent < 100, qPrintable(scenario.name));
+                QVERIFY2(scenario.particles.at(minute * 60, 1) > 0, qPrintable(scenario.name));
+            }
+        }
+    }
+
+    void firmwareFaultsCanBeNamed()
+    {
+        QCOMPARE(findScenario("bad-firmware")->firmware.size(), firmwareFaultNames().size());
+        QCOMPARE(findScenario("bad-firmware:stalled")->firmware, QList{FirmwareFault::Stalled});
+        for (const char *name : {"", "Steady", "bad-firmware:", "bad-firmware:x", "steady:refused"})
+            QVERIFY2(!findScenario(name), name);
+    }
+
+    void serverAnswersRequests_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("status");
+        QTest::addColumn<qint64>("bodySize");
+        QTest::newRow("package") << QByteArray("GET /zell/ZellQt-1.1.pkg?x=1 HTTP/1.1")
+                                 << QByteArray("200") << FIRMWARE_SIZE;
+        QTest::newRow("head") << QByteArray("HEAD /zell/ZellQt-1.1.pkg HTTP/1.1")
+                              << QByteArray("200") << qint64(0);
+        QTest::newRow("other path")
+            << QByteArray("GET / HTTP/1.1") << QByteArray("404") << qint64(0);
+        QTest::newRow("other method")
+            << QByteArray("POST /zell/ZellQt-1.1.pkg HTTP/1.1") << QByteArray("405") << qint64(0);
+        QTest::newRow("no HTTP") << QByteArray("\x16\x03\x01") << QByteArray("400") << qint64(0);
+        QTest::newRow("blank") << QByteArray() << QByteArray("400") << qint64(0);
+    }
+
+    void serverAnswersRequests()
+    {
+        QFETCH(QByteArray, request);
+        const FirmwareAnswer answer = answerTo(request + "\r\n\r\n", FirmwareFault::None);
+        QTEST(answer.head.mid(9, 3), "status");
+        QTEST(answer.bodySize, "bodySize");
+        QVERIFY(answer.head.endsWith("\r\n\r\n"));
+        QCOMPARE(firmwareBytes(0, 300).sliced(100), firmwareBytes(100, 200));
+    }
+};
+
+ZELL_TEST_MAIN(TestSimulatedDevice)
+#include "test_simulated_device.moc"
