@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace simulator {
+
+/// The serial line between the particle sensor and the board: a pty whose far end appears in the
+/// device root as a link. What the board sends is read and dropped.
+class SerialLine
+{
+public:
+    /// @p link is where the serial device appears while it is plugged in.
+    explicit SerialLine(const QString &link);
+    ~SerialLine();
+    SerialLine(const SerialLine &) = delete;
+    SerialLine &operator=(const SerialLine &) = delete;
+
+    /// Makes the device appear. False where the system has no pty to give or the link cannot be
+    /// made.
+    bool plugIn();
+
+    /// Hangs up: whoever has the device open gets an error, and the device is gone.
+    void pullOut();
+
+    bool isPluggedIn() const { return terminal >= 0; }
+
+    /// Whether somebody has the device open.
+    bool isOpened() const;
+
+    /// Sends one burst in a single write. Like on a wire, it is lost where nobody listens. Returns
+    /// whether somebody did.
+    bool send(const QByteArray &burst);
+
+private:
+    void dropReceived();
+
+    QString linkPath;
+    int terminal = -1;
+};
+
+} // namespace simulator

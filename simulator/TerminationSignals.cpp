@@ -1,0 +1,51 @@
+#include "simulator/TerminationSignals.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace simulator {
+namespace {
+std::array<int, 2> signalPipe{-1, -1};
+
+int openPipe()
+{
+    if (::pipe2(signalPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+        qFatal("no pipe for signals");
+    return signalPipe[0];
+}
+
+// Nothing but write() is allowed here.
+void handleSignal(int)
+{
+    const int savedError = errno;
+    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], "s", 1);
+    errno = savedError;
+}
+} // namespace
+
+TerminationSignals::TerminationSignals(QObject *parent)
+    : QObject(parent)
+    , notifier(openPipe(), QSocketNotifier::Read)
+{
+    connect(&notifier, &QSocketNotifier::activated, this, &TerminationSignals::readPipe);
+    struct sigaction action
+    {
+    };
+    action.sa_handler = handleSignal;
+    action.sa_flags = SA_RESTART;
+    for (const int signalNumber : {SIGINT, SIGTERM, SIGHUP})
+        ::sigaction(signalNumber, &action, nullptr);
+}
+
+void TerminationSignals::readPipe()
+{
+    std::array<char, 16> bytes{};
+    while (::read(signalPipe[0], bytes.data(), bytes.size()) > 0) {
+    }
+    emit received();
+}
+
+} // namespace simulator

@@ -1,0 +1,305 @@
+#include "simulator/FirmwareAnswer.h"
+#include "simulator/SensorFrame.h"
+#include "tests/simulator/SimulatorProcess.h"
+#include "tests/support/Environment.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QSerialPort>
+#include <QSignalSpy>
+#include <csignal>
+
+using namespace simulator;
+
+namespace {
+const QString climatePath = "/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity";
+
+bool isGood(const QByteArray &burst)
+{
+    return burst.size() == FRAME_SIZE && burst.startsWith("Z\xA5") &&
+           sensorChecksum(burst) == quint16(uchar(burst.at(58)) << 8 | uchar(burst.at(59)));
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+}
+
+/// What a program sees of the particle sensor.
+struct Board
+{
+    explicit Board(const QString &root)
+        : supply(root + "/dev/Boost_En")
+        , port(root + "/dev/ttyUSB0")
+    {
+        QObject::connect(&port, &QSerialPort::readyRead, &port,
+                         [this] { bursts.append(port.readAll()); });
+        QObject::connect(&port, &QSerialPort::errorOccurred, &port, [this] {
+            if (port.isOpen()) // closing reports an error, too
+                port.close();
+        });
+    }
+
+    bool switchSupply(const char *position)
+    {
+        QFile file(supply);
+        return file.open(QIODevice::ReadWrite) && file.write(position) == 1;
+    }
+
+    QString supply;
+    QSerialPort port;
+    QList<QByteArray> bursts;
+};
+} // namespace
+
+class TestZellSimulator : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void commandRunsOnTheDevice_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("output");
+        QTest::newRow("exit status") << "exit 7" << 7 << QByteArray();
+        QTest::newRow("killed") << "kill -9 $$" << 137 << QByteArray();
+        QTest::newRow("input") << "read line; echo \"$line\"" << 0 << QByteArray("typed\n");
+        QTest::newRow("address") << "echo ${ZELL_FIRMWARE_URL##*/}; echo ${no_proxy##*,}" << 0
+                                 << QByteArray("ZellQt-1.1.pkg\n127.0.0.1\n");
+        QTest::newRow("scanner") << "test $(command -v iwlist) -ef $ZELL_DEVICE_ROOT/sbin/iwlist"
+                                 << 0 << QByteArray();
+        QTest::newRow("backlight") << "cd $ZELL_DEVICE_ROOT; bin/qtapp/baklight 10; "
+                                      "bin/qtapp/baklight 7; cat log/backlight"
+                                   << 0 << QByteArray("10\n7\n");
+        QTest::newRow("supply is off")
+            << "cat $ZELL_DEVICE_ROOT/dev/Boost_En" << 0 << QByteArray("0");
+        QTest::newRow("leaves children behind")
+            << "(sleep 1000 & setsid sleep 1000 & (trap '' TERM; read x < dev/never)) & exit 3" << 3
+            << QByteArray();
+    }
+
+    void commandRunsOnTheDevice()
+    {
+        QFETCH(QString, command);
+        SimulatorProcess simulator({}, "echo $ZELL_DEVICE_ROOT; " + command);
+        simulator.write("typed\n");
+        QTEST(simulator.status(), "status");
+        const QByteArray root = simulator.output.left(simulator.output.indexOf('\n'));
+        QTEST(simulator.output.sliced(root.size() + 1), "output");
+        QVERIFY(root.startsWith('/'));
+        QVERIFY2(!QFile::exists(root), "the temporary root is gone");
+    }
+
+    void mistakesAreExplained_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("named");
+        QTest::newRow("option") << QStringList{"--frob"} << 2 << QByteArray("frob");
+        QTest::newRow("scenario") << QStringList{"--scenario", "warm"} << 2 << QByteArray("warm");
+        QTest::newRow("speed") << QStringList{"--speed", "0"} << 2 << QByteArray("--speed");
+        QTest::newRow("no number") << QStringList{"--speed", "nan"} << 2 << QByteArray("--speed");
+        QTest::newRow("seed") << QStringList{"--seed", "-1"} << 2 << QByteArray("--seed");
+        QTest::newRow("no root") << QStringList{"--root", ""} << 2 << QByteArray("--root");
+        QTest::newRow("bad root") << QStringList{"--root", "/dev/null/x"} << 1
+                                  << QByteArray("/dev/null/x");
+        QTest::newRow("no command")
+            << QStringList{"--", "./nothing"} << 127 << QByteArray("./nothing");
+    }
+
+    void mistakesAreExplained()
+    {
+        QFETCH(QStringList, options);
+        SimulatorProcess simulator(options);
+        QTEST(simulator.status(), "status");
+        QFETCH(QByteArray, named);
+        QVERIFY2(simulator.errors.contains(named), simulator.errors.constData());
+    }
+
+    void interruptEndsBoth_data()
+    {
+        QTest::addColumn<int>("signalNumber");
+        QTest::addColumn<QString>("onTerminate");
+        QTest::addColumn<int>("status");
+        QTest::newRow("tidy, Ctrl-C") << SIGINT << "exit 5" << 5;
+        QTest::newRow("tidy, terminated") << SIGTERM << "exit 5" << 5;
+        QTest::newRow("tidy, terminal closed") << SIGHUP << "exit 5" << 5;
+        QTest::newRow("stubborn") << SIGINT << "" << 137;
+    }
+
+    void interruptEndsBoth()
+    {
+        QFETCH(int, signalNumber);
+        QFETCH(QString, onTerminate);
+        SimulatorProcess simulator({}, "trap '" + onTerminate +
+                                           "' TERM; sleep 1000 & "
+                                           "echo $! $ZELL_DEVICE_ROOT ready; "
+                                           "while :; do sleep 1000; done");
+        QVERIFY(simulator.says("ready"));
+        simulator.interrupt(signalNumber);
+        QTEST(simulator.status(), "status");
+        const QList<QByteArray> words = simulator.output.split(' ');
+        QVERIFY2(!QFile::exists("/proc/" + words.at(0)), "no process is left");
+        QVERIFY2(!QFile::exists(words.at(1)), "the temporary root is gone");
+    }
+
+    void restartScriptRestarts_data()
+    {
+        QTest::addColumn<QString>("afterwards");
+        QTest::newRow("program waits") << "sleep 1000";
+        QTest::newRow("program ends by itself") << "exit 0";
+        QTest::newRow("program waits for a script that is slow") << "wait";
+    }
+
+    void restartScriptRestarts()
+    {
+        QFETCH(QString, afterwards);
+        QFile::remove("runs");
+        SimulatorProcess simulator({}, "echo $PWD $ZELL_DEVICE_ROOT $ZELL_FIRMWARE_URL >> runs; "
+                                       "test $(wc -l < runs) = 2 && exit 4; "
+                                       "$ZELL_DEVICE_ROOT/bin/restartZellQt.sh; sleep 1000 & " +
+                                           afterwards);
+        QCOMPARE(simulator.status(), 4);
+        const QList<QByteArray> runs = contentOf("runs").split('\n');
+        QCOMPARE(runs.size(), 3);
+        QCOMPARE(runs.at(0), runs.at(1));
+    }
+
+    void framesFlowWithTheSupply()
+    {
+        SimulatorProcess simulator({"--root", "device"});
+        Board board(simulator.environmentValue("ZELL_DEVICE_ROOT"));
+        QVERIFY(board.port.open(QIODevice::ReadWrite));
+        QVERIFY(board.switchSupply("1"));
+        board.port.write("UART Test = 0\r\n");
+        QElapsedTimer sinceFirst;
+        QTRY_COMPARE(board.bursts.size(), 1);
+        sinceFirst.start();
+        QTRY_COMPARE(board.bursts.size(), 3);
+        QVERIFY2(sinceFirst.elapsed() > 1500, "one a second");
+        for (const QByteArray &burst : board.bursts)
+            QVERIFY(isGood(burst));
+
+        QVERIFY(board.switchSupply("0"));
+        const QByteArray before = contentOf("device" + climatePath);
+        QTRY_VERIFY(contentOf("device" + climatePath) != before);
+        const QByteArray between = contentOf("device" + climatePath);
+        QTRY_VERIFY(contentOf("device" + climatePath) != between);
+        QCOMPARE(board.bursts.size(), 3);
+
+        simulator.interrupt(SIGINT);
+        QCOMPARE(simulator.status(), 0);
+        QVERIFY2(QFile::exists("device/log/backlight"), "a root of one's own stays");
+    }
+
+    void unpluggedDeviceComesBack()
+    {
+        SimulatorProcess simulator({"--scenario", "unplug"});
+        Board board(simulator.environmentValue("ZELL_DEVICE_ROOT"));
+        QVERIFY(board.port.open(QIODevice::ReadWrite));
+        QVERIFY(board.switchSupply("1"));
+        QTRY_VERIFY_WITH_TIMEOUT(!board.port.isOpen(), 10000);
+        QCOMPARE(board.bursts.size(), 4);
+        QVERIFY(!QFile::exists(board.port.portName()));
+        QTRY_VERIFY(board.port.open(QIODevice::ReadWrite));
+        QTRY_COMPARE(board.bursts.size(), 5);
+        QVERIFY(isGood(board.bursts.last()));
+    }
+
+    void garbageIsSentAsItIs()
+    {
+        SimulatorProcess simulator({"--scenario", "garbage"});
+        Board board(simulator.environmentValue("ZELL_DEVICE_ROOT"));
+        QVERIFY(board.port.open(QIODevice::ReadWrite));
+        QVERIFY(board.switchSupply("1"));
+        QTRY_COMPARE_WITH_TIMEOUT(board.bursts.size(), 9, 15000);
+        QList<qsizetype> sizes;
+        for (const QByteArray &burst : board.bursts)
+            sizes.append(burst.size());
+        QCOMPARE(sizes, (QList<qsizetype>{60, 60, 30, 30, 120, 59, 61, 60, 20}));
+        QVERIFY(isGood(board.bursts.at(0)) && !isGood(board.bursts.at(1)));
+    }
+
+    void deviceWithoutSensors()
+    {
+        SimulatorProcess simulator({"--scenario", "no-sensor"});
+        const QString root = simulator.environmentValue("ZELL_DEVICE_ROOT");
+        QVERIFY(QFile::exists(root + "/dev/Boost_En"));
+        QVERIFY(!QFile::exists(root + "/dev/ttyUSB0") && !QFile::exists(root + "/sys"));
+    }
+
+    void filesAreNeverHalfWritten()
+    {
+        SimulatorProcess simulator({"--speed", "20000", "--scenario", "cold"});
+        const QString path = simulator.environmentValue("ZELL_DEVICE_ROOT") + climatePath;
+        QSet<QByteArray> seen;
+        const bool whole = QTest::qWaitFor(
+            [&] {
+                for (int i = 0; i < 1000; ++i)
+                    seen.insert(contentOf(path));
+                return seen.size() >= 4;
+            },
+            10000);
+        QVERIFY(whole);
+        for (const QByteArray &text : std::as_const(seen))
+            QVERIFY2(text.size() == 30 && text.startsWith("temp = -"), text.constData());
+        QVERIFY2(QFile::remove(path), "a lost file");
+        QTRY_VERIFY(QFile::exists(path));
+    }
+
+    void downloadsFailInTurn()
+    {
+        SimulatorProcess simulator({"--scenario", "bad-firmware"});
+        const QUrl url(simulator.environmentValue("ZELL_FIRMWARE_URL"));
+        using Reply = QNetworkReply;
+        constexpr qint64 whole = FIRMWARE_SIZE;
+        const Download downloads[] = {
+            {"refused", Reply::ContentAccessDenied, 0, 0},
+            {"cut off", Reply::RemoteHostClosedError, whole / 2, whole},
+            {"stalled", Reply::OperationCanceledError, 16 * KIBIBYTE, whole},
+            {"endless", Reply::OperationCanceledError, 2 * whole, -1},
+            {"unknown length", Reply::NoError, whole, -1},
+            {"zero report", Reply::NoError, 0, 0},
+            {"refused again", Reply::ContentAccessDenied, 0, 0},
+        };
+        for (const Download &expected : downloads)
+            compareDownload(url, expected);
+    }
+
+private:
+    struct Download
+    {
+        const char *fault;
+        QNetworkReply::NetworkError error; ///< cancelled: does not end by itself
+        qint64 received;                   ///< bytes of body; cancelled at so many
+        qint64 total;                      ///< as the progress reports it
+    };
+
+    static void compareDownload(const QUrl &url, const Download &expected)
+    {
+        QNetworkAccessManager client;
+        const std::unique_ptr<QNetworkReply> reply(client.get(QNetworkRequest(url)));
+        QSignalSpy progress(reply.get(), &QNetworkReply::downloadProgress);
+        const bool neverEnds = expected.error == QNetworkReply::OperationCanceledError;
+        const bool done = QTest::qWaitFor(
+            [&] {
+                return reply->isFinished() ||
+                       (neverEnds && reply->bytesAvailable() >= expected.received);
+            },
+            10000);
+        QVERIFY2(done && reply->isFinished() != neverEnds, expected.fault);
+        const qint64 received = reply->bytesAvailable();
+        QVERIFY2(neverEnds ? received >= expected.received : received == expected.received,
+                 expected.fault);
+        reply->abort();
+        QCOMPARE(reply->error(), expected.error);
+        const QList<QVariant> report = progress.value(0);
+        QCOMPARE(report.value(0).toLongLong() == 0, expected.received == 0);
+        QCOMPARE(report.value(1).toLongLong(), expected.total);
+    }
+};
+
+ZELL_TEST_MAIN(TestZellSimulator)
+#include "test_zell_simulator.moc"
