@@ -1,3 +1,5 @@
+#include "acquisition/PM25Frame.h"
+#include "shell/Global_cfg.h"
 #include "simulator/FirmwareAnswer.h"
 #include "simulator/SensorFrame.h"
 #include "tests/simulator/SimulatorProcess.h"
@@ -14,10 +16,9 @@ using namespace simulator;
 namespace {
 const QString climatePath = "/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity";
 
-bool isGood(const QByteArray &burst)
+bool isGood(QByteArray burst)
 {
-    return burst.size() == FRAME_SIZE && burst.startsWith("Z\xA5") &&
-           sensorChecksum(burst) == quint16(uchar(burst.at(58)) << 8 | uchar(burst.at(59)));
+    return burst.size() == FRAME_SIZE && PM2_5_dataHandle(&burst) != PM25_ERROR_DATA;
 }
 
 QByteArray contentOf(const QString &path)
