@@ -38,3 +38,15 @@ void Environment::writeDeviceFile(const QString &path, const QByteArray &content
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(fullPath));
 }
+
+void Environment::writeDeviceScript(const QString &path, const QByteArray &commands)
+{
+    writeDeviceFile(path, "#!/bin/sh\n" + commands + "\n");
+    QFile::setPermissions(deviceRoot() + path, QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+}
+
+QByteArray Environment::contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}

@@ -20,6 +20,12 @@ public:
     /// Writes @p content to @p path below the device root, making the folders it needs.
     static void writeDeviceFile(const QString &path, const QByteArray &content);
 
+    /// Writes a shell script that runs @p commands, executable, to @p path below the device root.
+    static void writeDeviceScript(const QString &path, const QByteArray &commands);
+
+    /// The content of the file at @p path, which need not exist.
+    static QByteArray contentOf(const QString &path);
+
 private:
     QTemporaryDir directory;
     QString previousDirectory;
