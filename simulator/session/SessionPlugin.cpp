@@ -38,7 +38,8 @@ void endSession()
 
 QObject *SessionPlugin::create(const QString &, const QString &)
 {
-    auto *session = new QObject(qApp);
+    // Without a parent: the application deletes what its generic plug-ins created.
+    auto *session = new QObject;
     const std::chrono::seconds length(qEnvironmentVariableIntValue("ZELL_SESSION_SECONDS"));
     if (length.count() > 0)
         QTimer::singleShot(length, session, endSession);
