@@ -1,0 +1,21 @@
+#include "connectivity/FirmwareDownload.h"
+
+namespace {
+constexpr const char *fixedAddress = "http://firmware.example.com/zell/ZellQt-1.1.pkg";
+}
+
+QUrl firmwareAddress()
+{
+    const QString address = qEnvironmentVariable("ZELL_FIRMWARE_URL");
+    return QUrl(address.isEmpty() ? QString::fromLatin1(fixedAddress) : address);
+}
+
+qint64 downloadPercent(qint64 received, qint64 total)
+{
+    return total == 0 ? 0 : received * 100 / total;
+}
+
+QString downloadText(QString format, qint64 percent)
+{
+    return format.replace(QStringLiteral("%d"), QString::number(percent));
+}

@@ -1,0 +1,32 @@
+#include "connectivity/retryFirmware.h"
+
+#include "ui_retryFirmware.h"
+
+namespace {
+// A fixed picture of a download that has stalled.
+constexpr int stalledPercent = 83;
+} // namespace
+
+retryFirmware::retryFirmware(QWidget *parent)
+    : QWidget(parent)
+    , ui(std::make_unique<Ui::retryFirmware>())
+{
+    ui->setupUi(this);
+    ui->progressBar_fail->setValue(stalledPercent);
+    ui->progressBar_fail->setTextVisible(false);
+    // setupUi has bound both slots by name already; the second run per click is meant.
+    connect(ui->button_back, &QPushButton::clicked, this, &retryFirmware::on_button_back_clicked);
+    connect(ui->button_retry, &QPushButton::clicked, this, &retryFirmware::on_button_retry_clicked);
+}
+
+retryFirmware::~retryFirmware() = default;
+
+void retryFirmware::on_button_back_clicked()
+{
+    emit signal_backDefaultPage();
+}
+
+void retryFirmware::on_button_retry_clicked()
+{
+    emit signal_retryDownloadPage();
+}
