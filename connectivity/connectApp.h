@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class connectApp;
+}
+
+/// The page of the phone app: the codes of its two stores, and the way to the pairing number.
+/// Nothing pairs, so the paired view stays hidden. GUI thread.
+class connectApp : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr bool emptiedWhenLeft = true;
+
+    explicit connectApp(QWidget *parent = nullptr);
+    ~connectApp() override;
+
+    /// Shows the view of a device that is not paired.
+    void show_connect_disconnect();
+
+public slots:
+    void on_button_back_clicked();
+    void download_from_appleStore();
+    void download_from_googlePlay();
+    void jump_tryConnectApp_page();
+    void jump_disconnectApp_page();
+
+signals:
+    void signal_backDefaultPage();
+
+private:
+    std::unique_ptr<Ui::connectApp> ui;
+};

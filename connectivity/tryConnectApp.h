@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+namespace Ui {
+class tryConnectApp;
+}
+
+/// The page of the four-digit number that the owner types into the phone. GUI thread.
+///
+/// One click on its back button sends signal_backDefaultPage() twice; receivers bear it.
+class tryConnectApp : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit tryConnectApp(QWidget *parent = nullptr);
+    ~tryConnectApp() override;
+
+    /// Draws the number anew and shows it: four digits of 0 to 9, each on its own, from the C
+    /// library's generator seeded with the current second.
+    void generate_random_number();
+
+    /// Shows the result page. For the moment the phone confirms the number; nothing calls it yet.
+    void check_connect_result();
+
+public slots:
+    void on_button_back_clicked();
+
+signals:
+    void signal_backDefaultPage();
+
+private:
+    std::unique_ptr<Ui::tryConnectApp> ui;
+};
