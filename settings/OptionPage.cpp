@@ -1,6 +1,9 @@
 #include "settings/OptionPage.h"
 
 #include "connectivity/SetWifiPage.h"
+#include "connectivity/connectApp.h"
+#include "connectivity/setLocation.h"
+#include "connectivity/updateFirmware.h"
 #include "pages/DragScroll.h"
 #include "pages/PagePattern.h"
 #include "settings/Factory_Reset.h"
@@ -92,11 +95,20 @@ void OptionPage::jump_setLanguage_page()
     open<setLanguagePage>(ui->page_setLanguage);
 }
 
-void OptionPage::jump_setLocation_page() {}
+void OptionPage::jump_setLocation_page()
+{
+    open<setLocation>(ui->page_setLocation);
+}
 
-void OptionPage::jump_connectApp_page() {}
+void OptionPage::jump_connectApp_page()
+{
+    open<connectApp>(ui->page_connectApp);
+}
 
-void OptionPage::jump_updateFirmware_page() {}
+void OptionPage::jump_updateFirmware_page()
+{
+    open<updateFirmware>(ui->page_updateFirmware);
+}
 
 void OptionPage::jump_resetFactory_page()
 {
