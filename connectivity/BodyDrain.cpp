@@ -7,7 +7,7 @@
 namespace {
 constexpr qint64 keptBytes = 1024;
 // Room for what arrives within one turn of the event loop.
-constexpr qint64 bufferBytes = 256 * 1024;
+constexpr qint64 bufferBytes = qint64(256) * 1024;
 } // namespace
 
 BodyDrain::BodyDrain(QNetworkReply *source, qint64 largestBody)
@@ -30,7 +30,7 @@ void BodyDrain::drain()
     // A reply that was given up is closed before it says that it has finished.
     if (!reply->isOpen())
         return;
-    std::array<char, 16 * 1024> block;
+    std::array<char, 16384> block;
     qint64 count = 0;
     while ((count = reply->read(block.data(), qint64(block.size()))) > 0) {
         received += count;

@@ -45,7 +45,7 @@ private:
         if (after == Then::SendForEver) {
             connect(peer, &QTcpSocket::bytesWritten, peer, [this, peer](qint64 count) {
                 sent += count;
-                while (peer->bytesToWrite() < 256 * 1024 && peer->write(block) > 0) {
+                while (peer->bytesToWrite() < 262144 && peer->write(block) > 0) {
                 }
             });
         }
@@ -60,6 +60,6 @@ private:
     }
 
     QByteArray bytes;
-    QByteArray block = QByteArray(64 * 1024, 'x');
+    QByteArray block = QByteArray(65536, 'x');
     Then after;
 };

@@ -108,7 +108,7 @@ private slots:
         QVERIFY(waitFor(installs ? "page_installFirmware" : "page_retryFirmware"));
         // A redirect is followed a few hops, not for ever.
         QVERIFY(server.requests < 20);
-        QVERIFY(sanitized || residentBytes() - before < 24 * 1024 * 1024);
+        QVERIFY(sanitized || residentBytes() - before < 24e6);
         compare(installs ? "firmware-install.png" : "firmware-retry.png");
         tap(shown("button_back"));
         // The retry page runs its slots twice per click.
@@ -173,7 +173,7 @@ private slots:
             PackageServer server(ok("a", -1), Then::SendForEver);
             page->setLimits({});
             startDownload(server.address(package));
-            QTRY_VERIFY(server.sent > 1024 * 1024);
+            QTRY_VERIFY(server.sent > 1e6);
             page->on_downloadProgress(0, -1);
             if (leftByTouch)
                 tap(shown("button_back"));
