@@ -263,6 +263,147 @@
     </message>
 </context>
 <context>
+    <name>connectApp</name>
+    <message>
+        <source>Zell 手机 App</source>
+        <translation>Zell 手机 App</translation>
+    </message>
+    <message>
+        <source>Zell</source>
+        <translation>Zell</translation>
+    </message>
+    <message>
+        <source>扫二维码下载</source>
+        <translation>扫二维码下载</translation>
+    </message>
+    <message>
+        <source>或访问网址 </source>
+        <translation>或访问网址 </translation>
+    </message>
+    <message>
+        <source>app.example.com</source>
+        <translation>app.example.com</translation>
+    </message>
+    <message>
+        <source>已下载?</source>
+        <translation>已下载?</translation>
+    </message>
+    <message>
+        <source>和 App 配对</source>
+        <translation>和 App 配对</translation>
+    </message>
+    <message>
+        <source>随时随地用手机查看读数
+联动其他家用空气电器
+管理多台监测仪
+与好友分享数据</source>
+        <translation>随时随地用手机查看读数
+联动其他家用空气电器
+管理多台监测仪
+与好友分享数据</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;已与“手机”&lt;/p&gt;&lt;p align="center"&gt;配对&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;已与“手机”&lt;/p&gt;&lt;p align="center"&gt;配对&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>解除配对</source>
+        <translation>解除配对</translation>
+    </message>
+</context>
+<context>
+    <name>connectResult</name>
+    <message>
+        <source>成功配对</source>
+        <translation>成功配对</translation>
+    </message>
+    <message>
+        <source>已解除配对</source>
+        <translation>已解除配对</translation>
+    </message>
+    <message>
+        <source>无法联网</source>
+        <translation>无法联网</translation>
+    </message>
+</context>
+<context>
+    <name>disconnectApp</name>
+    <message>
+        <source>是否与“手机”解除配对？</source>
+        <translation>是否与“手机”解除配对？</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>installFirmware</name>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;系统软件版本&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;系统软件版本&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>当前系统版本: 1.0</source>
+        <translation>当前系统版本: 1.0</translation>
+    </message>
+    <message>
+        <source>发现新版本: 1.1</source>
+        <translation>发现新版本: 1.1</translation>
+    </message>
+    <message>
+        <source>正在安装...</source>
+        <translation>正在安装...</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;安装完成后将重新启动&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;安装完成后将重新启动&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>locationResult</name>
+    <message>
+        <source>手动指定所在地</source>
+        <translation>手动指定所在地</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;&lt;span style=" font-size:18pt;"&gt;没有搜索结果&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p align="center"&gt;&lt;span style=" font-size:18pt;"&gt;没有搜索结果&lt;/span&gt;&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Beirut,Berut,LB</source>
+        <translation>Beirut,Berut,LB</translation>
+    </message>
+    <message>
+        <source>北京，中国</source>
+        <translation>北京，中国</translation>
+    </message>
+    <message>
+        <source>Beigem,Vlaams Brabant,BE</source>
+        <translation>Beigem,Vlaams Brabant,BE</translation>
+    </message>
+    <message>
+        <source>北格，山西，中国</source>
+        <translation>北格，山西，中国</translation>
+    </message>
+    <message>
+        <source>北渡，上海，中国</source>
+        <translation>北渡，上海，中国</translation>
+    </message>
+    <message>
+        <source>北格1，山西，中国</source>
+        <translation>北格1，山西，中国</translation>
+    </message>
+    <message>
+        <source>北渡1，上海，中国</source>
+        <translation>北渡1，上海，中国</translation>
+    </message>
+</context>
+<context>
     <name>nightModePage</name>
     <message>
         <source>夜间模式</source>
@@ -302,6 +443,28 @@
     </message>
 </context>
 <context>
+    <name>retryFirmware</name>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;系统软件版本&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;系统软件版本&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;下载失败&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;下载失败&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>重试</translation>
+    </message>
+</context>
+<context>
+    <name>searchLocation</name>
+    <message>
+        <source>手动指定所在地</source>
+        <translation>手动指定所在地</translation>
+    </message>
+</context>
+<context>
     <name>setLanguagePage</name>
     <message>
         <source>请选择系统语言</source>
@@ -318,6 +481,29 @@
     <message>
         <source>English</source>
         <translation>English</translation>
+    </message>
+</context>
+<context>
+    <name>setLocation</name>
+    <message>
+        <source>所在地</source>
+        <translation>所在地</translation>
+    </message>
+    <message>
+        <source>基于网络定位</source>
+        <translation>基于网络定位</translation>
+    </message>
+    <message>
+        <source>北京</source>
+        <translation>北京</translation>
+    </message>
+    <message>
+        <source>手动指定所在地</source>
+        <translation>手动指定所在地</translation>
+    </message>
+    <message>
+        <source>廊坊</source>
+        <translation>廊坊</translation>
     </message>
 </context>
 <context>
@@ -379,6 +565,54 @@
     <message>
         <source>结束</source>
         <translation>结束</translation>
+    </message>
+</context>
+<context>
+    <name>tryConnectApp</name>
+    <message>
+        <source>Zell 手机 App</source>
+        <translation>Zell 手机 App</translation>
+    </message>
+    <message>
+        <source>请您在手机上打开 Zell app, 并在“配对”界面输入下列数字：</source>
+        <translation>请您在手机上打开 Zell app, 并在“配对”界面输入下列数字：</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <translation>%1</translation>
+    </message>
+</context>
+<context>
+    <name>updateFirmware</name>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;系统软件版本&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;系统软件版本&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>当前系统版本: 1.0</source>
+        <translation>当前系统版本: 1.0</translation>
+    </message>
+    <message>
+        <source>发现新版本: 1.1</source>
+        <translation>发现新版本: 1.1</translation>
+    </message>
+    <message>
+        <source>检查更新</source>
+        <translation>检查更新</translation>
+    </message>
+    <message>
+        <source>现在更新</source>
+        <translation>现在更新</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;正在下载...83%&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;正在下载...83%&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>正在下载 ... %d%
+</source>
+        <translation>正在下载 ... %d%
+</translation>
     </message>
 </context>
 <context>
