@@ -1,0 +1,60 @@
+#include "store/ZellDatabase.h"
+#include "tests/support/Environment.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/PictureCompare.h"
+#include "walk/Languages.h"
+#include "walk/LayoutCheck.h"
+#include "walk/Walk.h"
+
+/// Walks through the whole product and holds every stop against its reference picture. The stops
+/// follow one another: a single one cannot be run alone.
+class TestWalk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        stopCalendarAt(walkTime);
+        QApplication::setCursorFlashTime(0);
+        database = std::make_unique<ZellDatabase>();
+        zelldatabase = database.get();
+    }
+
+    void simplifiedChinese()
+    {
+        const InLanguage spoken("ZH_SIMPLE.qm");
+        QStringList findings;
+        Walk walk;
+        for (const Stop &stop : wholeWalk()) {
+            stop.go(walk);
+            const QString difference =
+                pictureDifference(walk.picture(), ZELL_REFERENCE_DIR, stop.name + ".png");
+            if (!difference.isEmpty())
+                findings.append(difference);
+            for (const QString &finding : layoutFindings(walk.screen()))
+                findings.append(stop.name + ": " + finding);
+        }
+        QVERIFY2(findings.isEmpty(), qPrintable(findings.join('\n')));
+    }
+
+    // Other texts have other lengths: nothing may be cut, nothing may push another aside.
+    void traditionalChinese()
+    {
+        const InLanguage spoken("ZH_COMPLEX.qm");
+        QStringList findings;
+        Walk walk;
+        for (const Stop &stop : wholeWalk()) {
+            stop.go(walk);
+            for (const QString &finding : layoutFindings(walk.screen()))
+                findings.append(stop.name + ": " + finding);
+        }
+        QVERIFY2(findings.isEmpty(), qPrintable(findings.join('\n')));
+    }
+
+private:
+    std::unique_ptr<ZellDatabase> database;
+};
+
+ZELL_TEST_MAIN(TestWalk)
+#include "test_walk.moc"

@@ -1,0 +1,281 @@
+#include "walk/Walk.h"
+
+#include "acquisition/GetData.h"
+#include "tests/support/Environment.h"
+#include "tests/support/Touch.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QGraphicsProxyWidget>
+#include <QGraphicsView>
+#include <QTest>
+#include <QTimer>
+#include <chrono>
+
+namespace {
+constexpr std::chrono::seconds patience{10};
+constexpr std::chrono::milliseconds lookInterval{60};
+constexpr std::chrono::milliseconds soon{400};
+constexpr int looksOfStillness = 3;
+constexpr int freeGroundY = 330;
+const QString sensorFile =
+    QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity");
+
+/// The widget at @p position, those inside a graphics view included.
+QWidget *widgetUnder(QWidget *root, const QPoint &position)
+{
+    QWidget *hit = root->childAt(position);
+    for (QWidget *widget = hit; widget; widget = widget->parentWidget()) {
+        auto *view = qobject_cast<QGraphicsView *>(widget);
+        if (!view || !view->scene())
+            continue;
+        const QPoint inView = view->viewport()->mapFrom(root, position);
+        for (QGraphicsItem *item : view->items(inView)) {
+            auto *proxy = qgraphicsitem_cast<QGraphicsProxyWidget *>(item);
+            if (!proxy || !proxy->widget())
+                continue;
+            const QPoint inProxy = proxy->mapFromScene(view->mapToScene(inView)).toPoint();
+            QWidget *child = proxy->widget()->childAt(inProxy);
+            // The overlay's plain containers let a finger through to the page below.
+            const bool letsThrough =
+                child && (child->inherits("QStackedWidget") ||
+                          qstrcmp(child->metaObject()->className(), "QWidget") == 0);
+            if (child && !letsThrough)
+                return child;
+        }
+    }
+    return hit;
+}
+} // namespace
+
+Walk::Walk()
+{
+    // Where the program leaves its Wi-Fi scan, beside the working directory.
+    QDir().mkpath("../resource");
+    setNetworks({"Home-5G", "Studio", "Balcony", "Guest", "Reading-Room", "Workshop"});
+    Environment::writeDeviceFile("/sys/devices/virtual/input/input3/light_val", "168");
+    setReadings(23456, 40200);
+    openWindow();
+}
+
+Walk::~Walk() = default;
+
+void Walk::openWindow()
+{
+    window = std::make_unique<MainWindow>();
+    window->setGeometry(0, 0, 854, 480);
+    window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    window->show();
+    waitFor("the window", [this] { return window->windowHandle()->isExposed(); });
+    readSensorNow();
+}
+
+QWidget *Walk::screen() const
+{
+    return window.get();
+}
+
+QPoint Walk::centreOf(const QWidget *widget) const
+{
+    const QPoint centre = widget->mapTo(widget->window(), widget->rect().center());
+    QGraphicsProxyWidget *proxy = widget->window()->graphicsProxyWidget();
+    if (!proxy)
+        return centre;
+    QGraphicsView *view = proxy->scene()->views().constFirst();
+    return view->mapTo(window.get(), view->mapFromScene(proxy->mapToScene(centre)));
+}
+
+QWidget *Walk::reachable(const std::function<bool(const QWidget *)> &wanted) const
+{
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (!widget->isVisible() || !wanted(widget))
+            continue;
+        const QWidget *hit = widgetUnder(window.get(), centreOf(widget));
+        if (hit && (hit == widget || widget->isAncestorOf(hit)))
+            return widget;
+    }
+    return nullptr;
+}
+
+QWidget *Walk::find(const QString &objectName) const
+{
+    QWidget *found =
+        reachable([&](const QWidget *widget) { return widget->objectName() == objectName; });
+    if (!found)
+        qFatal("nothing within reach is named %s", qPrintable(objectName));
+    return found;
+}
+
+bool Walk::sees(const QString &objectName) const
+{
+    return reachable([&](const QWidget *widget) { return widget->objectName() == objectName; });
+}
+
+QString Walk::textOf(const QString &objectName) const
+{
+    return find(objectName)->property("text").toString();
+}
+
+void Walk::tapAt(const QPoint &position)
+{
+    ::tapAt(window.get(), position);
+}
+
+void Walk::tap(const QString &objectName)
+{
+    tapAt(centreOf(find(objectName)));
+}
+
+void Walk::doubleTapAt(const QPoint &position)
+{
+    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, position);
+}
+
+void Walk::pressAt(const QPoint &position)
+{
+    finger = position;
+    ::pressAt(window.get(), finger);
+}
+
+void Walk::release()
+{
+    releaseAt(window.get(), finger);
+}
+
+void Walk::startSwipe(int fromX, int toX)
+{
+    drag(window.get(), QPoint(fromX, freeGroundY), QPoint(toX, freeGroundY));
+}
+
+void Walk::swipe(int fromX, int toX)
+{
+    startSwipe(fromX, toX);
+    settle();
+}
+
+void Walk::pressKey(QChar key)
+{
+    const QWidget *button = reachable([key](const QWidget *widget) {
+        return widget->inherits("CharacterButton") &&
+               qobject_cast<const QAbstractButton *>(widget)->text() == key;
+    });
+    if (!button)
+        qFatal("no key %s on the screen", qPrintable(QString(key)));
+    pressAt(centreOf(button));
+}
+
+void Walk::type(const QString &keys)
+{
+    for (const QChar key : keys) {
+        pressKey(key);
+        release();
+    }
+    settle();
+}
+
+void Walk::scrollMenuToEnd()
+{
+    drag(window.get(), QPoint(427, 440), QPoint(427, 140));
+    settle();
+}
+
+void Walk::openTile(const QString &tile)
+{
+    if (!sees(tile) || centreOf(find(tile)).y() > window->height() - 20)
+        scrollMenuToEnd();
+    if (!sees(tile)) {
+        drag(window.get(), QPoint(427, 140), QPoint(427, 440));
+        settle();
+    }
+    tap(tile);
+    settle();
+}
+
+void Walk::restartAtMenu()
+{
+    openWindow();
+    tap("button_option");
+    settle();
+}
+
+void Walk::call(const char *className, const char *slot)
+{
+    QWidget *page = reachable([className](const QWidget *widget) {
+        return qstrcmp(widget->metaObject()->className(), className) == 0;
+    });
+    if (!page || !QMetaObject::invokeMethod(page, slot))
+        qFatal("cannot call %s of %s", slot, className);
+}
+
+void Walk::setReadings(int milliDegrees, int milliPercent)
+{
+    const QString line = QStringLiteral("temp = %1, humidity = %2\n");
+    Environment::writeDeviceFile(sensorFile,
+                                 line.arg(milliDegrees, 5).arg(milliPercent, 5).toLatin1());
+    readSensorNow();
+}
+
+void Walk::breakSensor()
+{
+    QFile::remove(Environment::deviceRoot() + sensorFile);
+    readSensorNow();
+}
+
+void Walk::readSensorNow() const
+{
+    for (GetData *scheduler : GetData::objects())
+        QMetaObject::invokeMethod(scheduler, "refresh_allData");
+}
+
+void Walk::setNetworks(const QStringList &names)
+{
+    QByteArray script = "#!/bin/sh\ncat <<'END'\n";
+    for (const QString &name : names)
+        script += QByteArray(20, ' ') + "ESSID:\"" + name.toUtf8() + "\"\n";
+    const QString folder = QStringLiteral("/usr/bin");
+    Environment::writeDeviceFile(folder + "/iwlist", script + "END\n");
+    QFile::setPermissions(Environment::deviceRoot() + folder + "/iwlist",
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QByteArray path = QFile::encodeName(Environment::deviceRoot() + folder) + ':';
+    if (!qgetenv("PATH").startsWith(path))
+        qputenv("PATH", path + qgetenv("PATH"));
+}
+
+void Walk::waitFor(const QString &what, const std::function<bool()> &condition) const
+{
+    const auto limit = std::chrono::milliseconds(patience).count();
+    if (!QTest::qWaitFor(condition, int(limit)))
+        qFatal("waited in vain for %s", qPrintable(what));
+}
+
+void Walk::settle() const
+{
+    QImage last;
+    int still = 0;
+    waitFor("a still screen", [&] {
+        QTest::qWait(int(lookInterval.count()));
+        const QImage now = look();
+        still = now == last ? still + 1 : 0;
+        last = now;
+        return still >= looksOfStillness;
+    });
+}
+
+void Walk::keepPictureSoon()
+{
+    QTimer::singleShot(soon, window.get(), [this] { kept = look(); });
+}
+
+QImage Walk::picture()
+{
+    QImage image = kept.isNull() ? look() : kept;
+    kept = {};
+    return image;
+}
+
+QImage Walk::look() const
+{
+    return window->grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
