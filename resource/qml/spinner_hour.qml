@@ -1,29 +1,5 @@
-import QtQuick
 import "content"
 
-Rectangle {
-    width: 150
-    height: 320
-    color: "#00FFFFFF"
-
-    Column {
-        x: 20
-        y: 20
-        spacing: 40
-
-        Spinner {
-            id: spinner
-            width: 150
-            height: 300
-            focus: true
-            model: 24
-            itemHeight: 50
-            delegate: SpinnerText {
-                required property int index
-
-                text: (index < 10 ? "0" : "") + index
-                distance: spinner.distanceTo(index)
-            }
-        }
-    }
+NumberSpinner {
+    model: 24
 }
