@@ -1,127 +1,88 @@
 #include "settings/DateTimePage.h"
 #include "settings/OptionPage.h"
+#include "settings/QmlApplicationViewer.h"
 #include "settings/SetTimePage.h"
 #include "settings/timePage.h"
-#include "tests/settings/SpinnerRows.h"
 #include "tests/support/Environment.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/Touch.h"
 
 #include <QDateTime>
 #include <QPointer>
-#include <QPushButton>
-#include <QTimer>
 #include <memory>
-
-namespace {
-/// Counts how often a widget is painted.
-struct PaintCount : QObject
-{
-    explicit PaintCount(QObject *watched) { watched->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int paints = 0;
-};
-} // namespace
 
 class TestTimePages : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void init()
+public:
+    bool eventFilter(QObject *, QEvent *event) override
     {
-        log = std::make_unique<MessageLog>();
-        menu = std::make_unique<OptionPage>();
-        menu->show();
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
     }
 
+private slots:
+    void init() { menu = std::make_unique<OptionPage>(); }
     void cleanup()
     {
         menu.reset();
         QCOMPARE(DateTimePage::instance, nullptr);
-        QCOMPARE(log->lines(), QStringList());
-        log.reset();
     }
 
     void clockSwitchChoosesTextAndWheels()
     {
-        openSetTime();
+        const MessageLog log;
+        open("option_setTime");
         for (const bool use24Hour : {true, false}) {
             const QString format = use24Hour ? "yyyy-MM-dd HH:mm" : "yyyy-MM-dd hh:mm AP";
             QTRY_VERIFY(clockShows(format));
             QCOMPARE(shown("button_on")->styleSheet().contains("#00e5ff"), use24Hour);
-            tap(shown("button_dateTime"));
-            QCOMPARE(onScreen("widget_hour"), QRect(use24Hour ? 452 : 362, 98, 150, 320));
+            open("button_dateTime");
+            QCOMPARE(shown("widget_hour")->x(), use24Hour ? 452 : 362);
             QCOMPARE(shown("widget_amp") == nullptr, use24Hour);
-            QVERIFY(use24Hour || onScreen("widget_amp") == QRect(662, 173, 150, 160));
-            const int late = wheelTime(use24Hour).secsTo(QTime::currentTime());
+            const QTime start(row("widget_hour") + (use24Hour ? 0 : row("widget_amp") * 12),
+                              row("widget_min"));
+            const int late = start.secsTo(QTime::currentTime());
             QVERIFY(late >= 0 && late < 65);
-
-            QCOMPARE(wheel("widget_date")->currentIndex(), 0);
-            QTest::keyClick(wheel("widget_date"), Qt::Key_Up);
-            QCOMPARE(wheel("widget_date")->currentIndex(), 364);
-            const QString yesterday = QDate::currentDate().addDays(-1).toString("MM月dd日 ");
-            QVERIFY(currentText(wheel("widget_date")).startsWith(yesterday));
+            QCOMPARE(row("widget_date"), 0);
+            QTest::keyClick(shown("widget_date"), Qt::Key_Up);
+            QCOMPARE(row("widget_date"), 364);
             tap(shown("button_back"));
             QTRY_VERIFY(clockShows(format));
             tap(shown("checkBox_24Hours"));
         }
+        QCOMPARE(log.lines(), QStringList());
     }
 
-    void dateTimePageMovesToItsOpener()
+    void dateTimePageMovesToItsOpenerAndRests()
     {
         QPointer<DateTimePage> page;
-        for (int visit = 0; visit < 3; ++visit) {
-            openSetTime();
-            tap(shown("button_dateTime"));
-            if (visit == 0)
+        qApp->installEventFilter(this);
+        for (int visit = 1; visit <= 3; ++visit) {
+            open("option_setTime");
+            QTRY_VERIFY(isAtRest());
+            open("button_dateTime");
+            if (visit == 1)
                 page = DateTimePage::instance;
-            QCOMPARE(page, DateTimePage::instance);
-            QVERIFY(page->isVisible());
-            QVERIFY(menu->findChildren<SetTimePage *>().last()->isAncestorOf(page));
-            for (const char *name : {"widget_date", "widget_hour", "widget_min"})
-                QTRY_VERIFY2(isPainted(name), name);
+            QVERIFY(page && page == DateTimePage::instance);
+            const auto openers = menu->findChildren<SetTimePage *>();
+            QCOMPARE(openers.size(), visit);
+            QVERIFY(page->isVisible() && openers.last()->isAncestorOf(page));
+            QVERIFY(shown("widget_date") && shown("widget_hour") && shown("widget_min"));
+            QTRY_VERIFY(isAtRest());
             tap(shown("button_back"));
             QVERIFY(!page->isVisible());
             tap(shown("button_back"));
             QVERIFY(menu->is_allowed_slide());
-            log->clear();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QTRY_COMPARE(openers.last()->findChildren<QWidget *>().size(), 0);
         }
-        QCOMPARE(menu->findChildren<SetTimePage *>().size(), 3);
-    }
-
-    void idleAndLeftPagesArePaintedNoMore()
-    {
-        openSetTime();
-        auto *first = menu->findChild<SetTimePage *>();
-        tap(shown("button_back"));
-        QTRY_COMPARE(first->findChildren<QWidget *>().size(), 0);
-        PaintCount left(first);
-        openSetTime();
-        QVERIFY(first->isVisible());
-        PaintCount idle(menu->findChildren<SetTimePage *>().last());
-        QTRY_VERIFY(idle.paints > 0);
-
-        QTimer frames;
-        int passed = 0;
-        connect(&frames, &QTimer::timeout, this, [&] {
-            if (++passed == 10)
-                idle.paints = 0;
-        });
-        frames.start(16);
-        QTRY_VERIFY(passed >= 40);
-        QCOMPARE(idle.paints, 0);
-        QCOMPARE(left.paints, 0);
+        qApp->removeEventFilter(this);
     }
 
     void nightRowsFollowTheSwitch()
     {
-        openNightMode();
+        open("option_frame_nightPattern");
         for (const bool on : {true, false, true}) {
             QCOMPARE(shown("frame_startTime") != nullptr, on);
             QCOMPARE(shown("frame_finishTime") != nullptr, on);
@@ -131,39 +92,38 @@ private slots:
         tap(shown("button_setNightMode"));
         QVERIFY(!shown("frame_startTime"));
         tap(shown("button_back"));
-        openNightMode();
+        open("option_frame_nightPattern");
         QVERIFY(shown("frame_startTime"));
     }
 
     void bothTimesOpenAFreshPage()
     {
-        const QString selected = "border-image: url(:/resource/images/optionPage/nightPattern/"
-                                 "button.png);\nfont: 24px;\ncolor:#212121;";
-        const QString other = "border-image: url(:/resource/images/optionPage/nightPattern/"
-                              "unbutton.png);\nfont: 24px;\ncolor:#FFFFFF;";
-        openNightMode();
-        int visits = 0;
-        for (const char *button : {"button_startTime", "button_finishTime"}) {
-            tap(shown(button));
-            QCOMPARE(menu->findChildren<timePage *>().size(), ++visits);
-            QCOMPARE(wheelTime(true), QTime(22, 30));
-            QCOMPARE(visibleWheels(), 2);
-            QTest::keyClick(wheel("widget_hour"), Qt::Key_Down);
-            QCOMPARE(wheel("widget_hour")->currentIndex(), 23);
+        const QString tab = "border-image: url(:/resource/images/optionPage/nightPattern/%1.png);\n"
+                            "font: 24px;\ncolor:%2;";
+        const QString looks[] = {tab.arg("unbutton", "#FFFFFF"), tab.arg("button", "#212121")};
+        open("option_frame_nightPattern");
+        for (const int visit : {1, 2}) {
+            open(visit == 1 ? "button_startTime" : "button_finishTime");
+            QCOMPARE(menu->findChildren<timePage *>().size(), visit);
+            QVERIFY(row("widget_hour") == 22 && row("widget_min") == 30 && !shown("widget_amp"));
+            QTest::keyClick(shown("widget_hour"), Qt::Key_Down);
+            QCOMPARE(row("widget_hour"), 23);
             for (const bool finish : {false, true, false}) {
-                QCOMPARE(shown("pushButton_start")->styleSheet(), finish ? other : selected);
-                QCOMPARE(shown("pushButton_finish")->styleSheet(), finish ? selected : other);
+                QCOMPARE(shown("pushButton_start")->styleSheet(), looks[finish ? 0 : 1]);
+                QCOMPARE(shown("pushButton_finish")->styleSheet(), looks[finish ? 1 : 0]);
                 tap(shown(finish ? "pushButton_start" : "pushButton_finish"));
             }
             tap(shown("button_back"));
-            QVERIFY(shown("frame_startTime"));
-            QCOMPARE(visibleWheels(), 0);
+            QVERIFY(shown("frame_startTime") && !shown("widget_hour"));
         }
     }
 
 private:
-    void openSetTime() { tap(visibleChild(menu.get(), "option_setTime")); }
-    void openNightMode() { tap(visibleChild(menu.get(), "option_frame_nightPattern")); }
+    void open(const QString &button)
+    {
+        menu->show();
+        tap(shown(button));
+    }
 
     /// The visible widget @p name of the newest page, or null.
     QWidget *shown(const QString &name) const
@@ -174,53 +134,28 @@ private:
         return found;
     }
 
-    QmlApplicationViewer *wheel(const QString &name) const
+    int row(const QString &wheel) const
     {
-        return qobject_cast<QmlApplicationViewer *>(shown(name));
-    }
-
-    QTime wheelTime(bool use24Hour) const
-    {
-        const int half = use24Hour ? 0 : wheel("widget_amp")->currentIndex();
-        return {wheel("widget_hour")->currentIndex() + half * 12,
-                wheel("widget_min")->currentIndex()};
+        return qobject_cast<QmlApplicationViewer *>(shown(wheel))->currentIndex();
     }
 
     /// Whether the page shows the present minute, or the one that has just passed.
     bool clockShows(const QString &format) const
     {
-        const auto *button = qobject_cast<QPushButton *>(shown("button_currentDateTime"));
+        const QString text = shown("button_currentDateTime")->property("text").toString();
         const QDateTime now = QDateTime::currentDateTime();
-        return button != nullptr && (button->text() == now.toString(format) ||
-                                     button->text() == now.addSecs(-5).toString(format));
+        return text == now.toString(format) || text == now.addSecs(-5).toString(format);
     }
 
-    /// Whether the bright middle row of the wheel @p name is in the picture of the screen.
-    bool isPainted(const QString &name) const
+    /// Whether a turn of the event loop paints nothing.
+    bool isAtRest()
     {
-        const QImage picture = menu->grab(onScreen(name)).toImage();
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, 180) == QColor("#00e5ff"))
-                return true;
-        }
-        return false;
+        paints = 0;
+        QCoreApplication::processEvents();
+        return paints == 0;
     }
 
-    QRect onScreen(const QString &name) const
-    {
-        const QWidget *widget = shown(name);
-        return {widget->mapTo(menu.get(), QPoint()), widget->size()};
-    }
-
-    int visibleWheels() const
-    {
-        int count = 0;
-        for (const auto *host : menu->findChildren<QmlApplicationViewer *>())
-            count += host->isVisible() ? 1 : 0;
-        return count;
-    }
-
-    std::unique_ptr<MessageLog> log;
+    int paints = 0;
     std::unique_ptr<OptionPage> menu;
 };
 
