@@ -3,11 +3,11 @@
 #include "pages/PagePattern.h"
 #include "pages/SwitchCaptions.h"
 #include "settings/DateTimePage.h"
+#include "settings/TimeSpinners.h"
 #include "settings/TimeZonePage.h"
 #include "ui_SetTimePage.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <array>
 
 namespace {
@@ -23,6 +23,7 @@ SetTimePage::SetTimePage(QWidget *parent)
     ui->setupUi(this);
     captionSwitch(ui->checkBox_24Hours, ui->button_close, ui->button_on);
     captionSwitch(ui->checkBox_AutoGetTime, ui->button_close_2, ui->button_on_2);
+    readySpinnersSoon();
 }
 
 SetTimePage::~SetTimePage() = default;
@@ -31,10 +32,8 @@ void SetTimePage::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
     const QString &format = displayFormats[ui->checkBox_24Hours->isChecked() ? 0 : 1];
-    const QString now = QDateTime::currentDateTime().toString(format);
-    // A new text paints the button, and with it this page: an unchanged one must not.
-    if (ui->button_currentDateTime->text() != now)
-        ui->button_currentDateTime->setText(now);
+    // A new text paints this page once more; the same text again does not.
+    ui->button_currentDateTime->setText(QDateTime::currentDateTime().toString(format));
 }
 
 void SetTimePage::on_button_dateTime_clicked()

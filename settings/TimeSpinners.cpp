@@ -2,14 +2,37 @@
 
 #include "settings/QmlApplicationViewer.h"
 
+#include <QCoreApplication>
+#include <QTimer>
+#include <chrono>
+#include <utility>
+
 namespace {
 constexpr int noon = 12;
+// A page has its picture by then, and nobody has found the next row to tap on it.
+constexpr std::chrono::milliseconds pictureTime{100};
+
+QString spinnerFile(const QString &name)
+{
+    return QStringLiteral("qrc:/resource/qml/spinner_%1.qml").arg(name);
+}
+} // namespace
+
+void readySpinnersSoon()
+{
+    static bool ready = false;
+    if (std::exchange(ready, true))
+        return;
+    QTimer::singleShot(pictureTime, qApp, [] {
+        for (const auto *name : {"date", "hour", "minute"})
+            QmlApplicationViewer().setMainQmlFile(spinnerFile(QLatin1String(name)));
+    });
 }
 
 void loadSpinner(QmlApplicationViewer *host, const QString &name, int row)
 {
     host->setOrientation(QmlApplicationViewer::ScreenOrientation::Automatic);
-    host->setMainQmlFile(QStringLiteral("qrc:/resource/qml/spinner_%1.qml").arg(name), row);
+    host->setMainQmlFile(spinnerFile(name), row);
     host->showExpanded();
 }
 

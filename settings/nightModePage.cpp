@@ -2,6 +2,7 @@
 
 #include "pages/PagePattern.h"
 #include "pages/SwitchCaptions.h"
+#include "settings/TimeSpinners.h"
 #include "settings/timePage.h"
 #include "ui_nightModePage.h"
 
@@ -13,7 +14,9 @@ nightModePage::nightModePage(QWidget *parent)
     captionSwitch(ui->checkBox_nightMode, ui->button_close, ui->button_on);
     connect(ui->checkBox_nightMode, &QCheckBox::clicked, this,
             &nightModePage::SetTimeControlHideSlt);
+    InitUi();
     SetTimeControlHideSlt();
+    readySpinnersSoon();
 }
 
 nightModePage::~nightModePage() = default;

@@ -34,6 +34,8 @@ private slots:
     void back_default_page();
 
 private:
+    /// Nothing to do: the form says it all.
+    void InitUi() {}
     void openTimePage();
 
     std::unique_ptr<Ui::nightModePage> ui;

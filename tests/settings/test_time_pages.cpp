@@ -9,6 +9,7 @@
 
 #include <QDateTime>
 #include <QPointer>
+#include <QQmlEngine>
 #include <memory>
 
 class TestTimePages : public QObject
@@ -28,6 +29,14 @@ private slots:
     {
         menu.reset();
         QCOMPARE(DateTimePage::instance, nullptr);
+    }
+
+    // The first test: no spinner has been loaded before.
+    void spinnersAreReadyBeforeTheyAreOpened()
+    {
+        QVERIFY(!qApp->findChild<QQmlEngine *>());
+        open("option_setTime");
+        QTRY_VERIFY(qApp->findChild<QQmlEngine *>());
     }
 
     void clockSwitchChoosesTextAndWheels()
