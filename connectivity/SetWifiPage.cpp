@@ -11,12 +11,15 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QPointer>
 #include <cstdlib>
 
 namespace {
 // The scan tells neither of them; every network gets the same.
 constexpr int scannedLevel = 3;
 const QString scannedAddress = QStringLiteral("MAC");
+// Whoever taps on and on must not nest choices until the stack is full.
+constexpr int mostChoicesUnderWay = 4;
 } // namespace
 
 SetWifiPage::SetWifiPage(QWidget *parent)
@@ -31,8 +34,9 @@ SetWifiPage::SetWifiPage(QWidget *parent)
     ui->listView->setModel(model);
 
     QFile scanFile(scan());
+    const bool opened = scanFile.open(QIODevice::ReadOnly);
     qDebug() << scanFile.exists();
-    if (scanFile.open(QIODevice::ReadOnly) && scanFile.size() != 0)
+    if (opened && scanFile.size() != 0)
         showNetworks(scanFile);
     else
         showNoWifi(scanFile);
@@ -48,7 +52,7 @@ QString SetWifiPage::scan()
 {
     const QString command = scanCommand(QDir::currentPath());
     qDebug() << "command" << command;
-    const QString filePath = scanFilePath(QDir::currentPath());
+    QString filePath = scanFilePath(QDir::currentPath());
     qDebug() << "filePath" << filePath;
     // The file tells whether it worked.
     [[maybe_unused]] const int status = std::system(command.toLocal8Bit().constData());
@@ -60,6 +64,7 @@ void SetWifiPage::showNetworks(QFile &scanFile)
     ui->listView->show();
     ui->scrollArea->show();
     qDebug() << "Open file OK and the file is not blank...";
+    model = new WifiListModel(this);
     for (const QString &name : readNetworkNames(scanFile)) {
         qDebug() << "strEverySSIDName" << name;
         wifiList.append(keep(
@@ -68,6 +73,7 @@ void SetWifiPage::showNetworks(QFile &scanFile)
     scanFile.close();
 
     model->setWifiList(wifiList);
+    ui->listView->setModel(model);
     ui->listView->setItemDelegate(new WifiListRowDelegate(ui->listView));
     QPalette palette = ui->listView->palette();
     palette.setBrush(QPalette::Highlight, Qt::white);
@@ -110,8 +116,18 @@ void SetWifiPage::onListWifiItemClicked(const QItemSelection &selected, const QI
     if (selected.isEmpty())
         return;
     qDebug() << "Click";
-    // The page may have been left within the second of waiting, or have gone: then it is false.
-    if (!model->toConnect(selected.first().top()) || left)
+    if (choicesUnderWay == mostChoicesUnderWay) {
+        qDebug() << "still connecting: the tap is ignored";
+        return;
+    }
+    const QPointer<SetWifiPage> self(this);
+    ++choicesUnderWay;
+    model->toConnect(selected.first().top());
+    if (!self)
+        return;
+    --choicesUnderWay;
+    // A page left within the second has no widgets any more.
+    if (left)
         return;
     openPage<passwordKeyboard>(this, ui->stackedWidget, ui->page_passwordKeyboard,
                                &SetWifiPage::back_default_page);

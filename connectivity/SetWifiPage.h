@@ -18,8 +18,8 @@ class SetWifiPage;
 /// The networks in reach, scanned once while the page is built: that blocks for the whole scan.
 ///
 /// A tap on a network shows it as connecting for a second, then as connected, and opens the page
-/// for its password. The connection is only shown, not made. Without a scan result the page says
-/// that there is no Wi-Fi. GUI thread.
+/// for its password. Each tap within that second nests one more choice, up to four. The connection
+/// is only shown, not made. Without a scan result the page says that there is no Wi-Fi. GUI thread.
 class SetWifiPage : public QWidget
 {
     Q_OBJECT
@@ -55,5 +55,6 @@ private:
     std::vector<std::unique_ptr<WifiInfo>> networks;
     QList<WifiInfo *> wifiList;
     int timerId = 0;
+    int choicesUnderWay = 0;
     bool left = false;
 };

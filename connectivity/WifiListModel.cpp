@@ -1,21 +1,21 @@
 #include "connectivity/WifiListModel.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDebug>
-#include <QEventLoop>
 #include <QPointer>
 #include <algorithm>
 #include <chrono>
 
 namespace {
 constexpr std::chrono::milliseconds connectingTime{1000};
-}
+// How long events are processed before the time is looked at again.
+constexpr std::chrono::milliseconds eventTime{100};
+} // namespace
 
 WifiListModel::WifiListModel(QObject *parent)
     : QAbstractListModel(parent)
 {
-    connecting.setSingleShot(true);
-    connecting.setTimerType(Qt::PreciseTimer);
-    connecting.setInterval(connectingTime);
 }
 
 int WifiListModel::rowCount(const QModelIndex &parent) const
@@ -95,35 +95,25 @@ void WifiListModel::resetList()
     endResetModel();
 }
 
-bool WifiListModel::toConnect(int row)
+void WifiListModel::toConnect(int row)
 {
     if (row < 0 || row >= wifiList.size()) {
         qDebug() << "no network in row" << row;
-        return false;
+        return;
     }
-    chosen = wifiList.at(row);
+    WifiInfo *chosen = wifiList.at(row);
     for (WifiInfo *info : std::as_const(wifiList))
         info->setConnectState(ConnectState::StateDisconnected);
     chosen->setConnectState(ConnectState::StateConnecting);
     resetList();
 
-    // Whoever taps on and on must not nest ever deeper: the first call waits for the last choice.
-    connecting.start();
-    if (waiting || !waitForConnection() || !wifiList.contains(chosen))
-        return false;
+    const QPointer<WifiListModel> self(this);
+    // Not by the time of day, which may be set or pass midnight meanwhile.
+    const QDeadlineTimer connected(connectingTime);
+    while (self && !connected.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, int(eventTime.count()));
+    if (!self || !wifiList.contains(chosen) || !chosen->isConnecting())
+        return;
     chosen->setConnectState(ConnectState::StateConnected);
     resetList();
-    return true;
-}
-
-bool WifiListModel::waitForConnection()
-{
-    const QPointer<WifiListModel> self(this);
-    waiting = true;
-    QEventLoop loop;
-    while (self && connecting.isActive())
-        loop.processEvents(QEventLoop::WaitForMoreEvents);
-    if (self)
-        waiting = false;
-    return !self.isNull();
 }

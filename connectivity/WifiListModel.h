@@ -3,7 +3,6 @@
 #include "connectivity/WifiInfo.h"
 
 #include <QAbstractListModel>
-#include <QTimer>
 #include <memory>
 #include <vector>
 
@@ -25,31 +24,25 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     /// Changes nothing.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    /// Inserts @p count blank networks under the root. A row outside the list is moved to its end.
+    /// Inserts @p count blank networks under the root; a row outside the list counts as the
+    /// nearest.
     bool insertRows(int row, int count, const QModelIndex &parent = {}) override;
     /// Removes those of the rows that exist, from the root; the networks stay alive. Always true.
     bool removeRows(int row, int count, const QModelIndex &parent = {}) override;
 
-    /// A row outside the list is moved to its end.
+    /// A row outside the list counts as the nearest.
     void insertWifi(int row, WifiInfo *&info);
     void setWifiList(const QList<WifiInfo *> &list);
     void resetList();
 
     /// Marks the network at @p row as connecting for a second, then as connected; all others are
-    /// disconnected. The second passes here, with events being processed.
+    /// disconnected. A row outside the list changes nothing.
     ///
-    /// Called again meanwhile, the later choice takes over: that call returns false at once, and
-    /// the first one waits a second more and returns for both. Also false when the model goes
-    /// meanwhile, its network is taken out, or there is no such row.
-    bool toConnect(int row);
+    /// The second passes here, with events being processed: by the end of it the model may have
+    /// gone, and another network may have been chosen, which then is the one connected.
+    void toConnect(int row);
 
 private:
-    /// Processes events until the time of connecting is over. False when the model has gone.
-    bool waitForConnection();
-
     QList<WifiInfo *> wifiList;
     std::vector<std::unique_ptr<WifiInfo>> blanks;
-    WifiInfo *chosen = nullptr;
-    QTimer connecting;
-    bool waiting = false;
 };

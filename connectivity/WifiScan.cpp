@@ -8,7 +8,7 @@
 namespace {
 constexpr int nameStart = 27;
 constexpr qsizetype mostNetworks = 1000;
-constexpr qint64 mostBytes = 8 * 1024 * 1024;
+constexpr qint64 mostBytes = 8LL * 1024 * 1024;
 constexpr qint64 mostBytesOfLine = 1024;
 
 QString networkName(QByteArrayView line)
@@ -40,7 +40,7 @@ QStringList readNetworkNames(QIODevice &scan)
     qint64 bytesLeft = mostBytes;
     const auto readPiece = [&] {
         // Qt counts a terminating zero in.
-        const QByteArray piece = scan.readLine(mostBytesOfLine + 1);
+        QByteArray piece = scan.readLine(mostBytesOfLine + 1);
         bytesLeft -= piece.size();
         return piece;
     };

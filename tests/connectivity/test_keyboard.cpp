@@ -1,7 +1,6 @@
 #include "connectivity/CharacterButton.h"
 #include "connectivity/KeyBorad.h"
 #include "connectivity/KeyLayout.h"
-#include "pages/Ground.h"
 #include "tests/support/Environment.h"
 #include "tests/support/MessageLog.h"
 #include "tests/support/Touch.h"
@@ -16,58 +15,40 @@ namespace {
 class Host : public QWidget
 {
 public:
-    explicit Host(bool withLine = true)
+    Host()
+        : line(new QLineEdit(this))
     {
-        resize(854, 480);
-        fillGround(this);
         auto *container = new QFrame(this);
         container->resize(854, 480);
-        if (withLine) {
-            new QLineEdit("another line", this);
-            line = new QLineEdit(this);
-            line->setGeometry(71, 100, 712, 48);
-        }
         keyboard = new KeyBorad(container);
+        commit = std::make_unique<QSignalSpy>(keyboard, &KeyBorad::signal_commit);
         show();
-        if (!QTest::qWaitForWindowExposed(this))
-            qFatal("no window");
     }
 
-    void tapKey(const char *name) { tap(visibleChild(this, name)); }
+    // Taps wide keys by name and the others by text.
+    void tapKeys(const QStringList &keys)
+    {
+        for (const QString &name : keys)
+            tap(name.size() > 2 ? visibleChild(this, name) : key(name));
+    }
 
     CharacterButton *key(const QString &text) const
     {
-        for (auto *candidate : findChildren<CharacterButton *>()) {
-            if (candidate->isVisible() && candidate->text() == text)
-                return candidate;
+        for (auto *key : findChildren<CharacterButton *>()) {
+            if (key->isVisible() && key->text() == text)
+                return key;
         }
         return nullptr;
     }
 
     QLabel *enlarged() { return static_cast<QLabel *>(visibleChild(this, "label_enlarge")); }
-    QString page() const
-    {
-        return keyboard->findChild<QStackedWidget *>()->currentWidget()->objectName();
-    }
+    QString page() { return findChild<QStackedWidget *>()->currentWidget()->objectName(); }
+    QString committed() { return commit->takeFirst().first().toString(); }
 
-    QLineEdit *line = nullptr;
-    KeyBorad *keyboard = nullptr;
-};
-
-// Unites what is painted on a widget.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint)
-            painted += static_cast<QPaintEvent *>(event)->region();
-        return false;
-    }
-
-    QRegion painted;
+    QLineEdit *anotherLine = new QLineEdit("another line", this);
+    QLineEdit *line;
+    KeyBorad *keyboard;
+    std::unique_ptr<QSignalSpy> commit;
 };
 } // namespace
 
@@ -76,151 +57,90 @@ class TestKeyboard : public QObject
     Q_OBJECT
 
 private slots:
-    void everyKeyTypesItsLabel();
-    void rowsAbutAndAreCentred();
-    void enlargedLabelFollowsTheFinger();
-    void pressRepaintsOnlyWhatChanges();
-    void pagesTakeTurns();
-    void wideKeysEdit();
-    void typingNeedsALine();
-};
+    void everyKeyTypesItsLabel()
+    {
+        const std::tuple<KeyPage, QString, QString> pages[] = {
+            {KeyPage::Lowercase, "button_delete", "1234567890qwertyuiopasdfghjklzxcvbnm"},
+            {KeyPage::Uppercase, "button_shiftNormal", "1234567890QWERTYUIOPASDFGHJKLZXCVBNM"},
+            {KeyPage::Symbol, "button_symbol", "~@#$%^&&_`|\\/*+-=()[]{}<>'\":;?!,."},
+        };
+        for (const auto &[page, way, typed] : pages) {
+            Host host;
+            host.tapKeys({way});
+            for (auto *key : host.findChildren<CharacterButton *>()) {
+                if (key->isVisible())
+                    tap(key);
+            }
+            QCOMPARE(host.line->text() + host.anotherLine->text(), typed + "another line");
 
-void TestKeyboard::everyKeyTypesItsLabel()
-{
-    const std::pair<const char *, QString> pages[] = {
-        {"button_delete", "1234567890qwertyuiopasdfghjklzxcvbnm"},
-        {"button_shiftNormal", "1234567890QWERTYUIOPASDFGHJKLZXCVBNM"},
-        {"button_symbol", "~@#$%^&&_`|\\/*+-=()[]{}<>'\":;?!,."},
-    };
-    for (const auto &[way, typed] : pages) {
+            // The keys of a row leave no gap, and the row stands in the middle.
+            QMap<int, QRegion> rows;
+            for (const KeyPlace &place : keyPlaces(page))
+                rows[place.area.top()] += place.area;
+            QCOMPARE(rows.keys(), (QList<int>{176, 236, 296, 356, 416}));
+            for (const QRegion &row : std::as_const(rows))
+                QVERIFY(row.rectCount() == 1 && qAbs(row.boundingRect().center().x() - 426) <= 1);
+        }
+    }
+
+    void enlargedLabelFollowsTheFinger()
+    {
         Host host;
-        host.tapKey(way);
-        for (auto *key : host.findChildren<CharacterButton *>()) {
-            if (key->isVisible())
-                tap(key);
-        }
-        QCOMPARE(host.line->text(), typed);
-        QCOMPARE(host.findChild<QLineEdit *>()->text(), "another line");
+        const QRect first = host.key("1")->geometry();
+        pressAt(&host, first.center());
+        QCOMPARE(host.enlarged()->text(), "1");
+        QCOMPARE(host.enlarged()->geometry(), QRect(first.x() - 2, 78, 88, 88));
+        // Off the key and on again, without typing anything yet.
+        moveTo(&host, {400, 40});
+        QVERIFY(!host.enlarged());
+        moveTo(&host, first.center());
+        QVERIFY(host.enlarged() && host.line->text().isEmpty());
+        releaseAt(&host, first.center());
+        QVERIFY(!host.enlarged());
+        // It goes with its page.
+        pressAt(&host, first.center());
+        host.hide();
+        host.show();
+        QVERIFY(!host.enlarged() && !host.key("1")->isDown());
+        releaseAt(&host, first.center());
+        QCOMPARE(host.line->text(), "1");
     }
-}
 
-void TestKeyboard::rowsAbutAndAreCentred()
-{
-    for (const KeyPage page : {KeyPage::Lowercase, KeyPage::Uppercase, KeyPage::Symbol}) {
-        QMap<int, QRegion> rows;
-        for (const KeyPlace &place : keyPlaces(page))
-            rows[place.area.top()] += place.area;
-        QCOMPARE(rows.keys(), (QList<int>{176, 236, 296, 356, 416}));
-        for (const QRegion &row : std::as_const(rows)) {
-            QCOMPARE(row.rectCount(), 1);
-            QVERIFY(qAbs(row.boundingRect().center().x() - 426) <= 1);
-        }
+    void wideKeysEditAndSwitch()
+    {
+        Host host;
+        MessageLog log;
+        host.tapKeys({"button_delete", "a", "button_blank", "b"});
+        host.line->setCursorPosition(0);
+        host.tapKeys({"button_delete", "button_symbol", "button_blank_3", "&&", "button_enter_3"});
+        QCOMPARE(host.committed(), "a  &&");
+        QVERIFY(log.contains("\"a  &&\""));
+        host.tapKeys({"button_character"});
+        QCOMPARE(host.page(), "page_lowercase");
+
+        // Shift acts on press and stays; the symbols lead back to the case in use.
+        const QPoint shift = host.findChild<QWidget *>("button_shiftNormal")->geometry().center();
+        pressAt(&host, shift);
+        QCOMPARE(host.page(), "page_uppercase");
+        releaseAt(&host, shift);
+        host.tapKeys({"button_symbol_2", "button_delete_3", "button_character"});
+        host.tapKeys({"button_delete_2", "button_blank_2", "button_enter_2"});
+        QCOMPARE(host.committed(), "a   ");
+        host.tapKeys({"button_shiftChecked"});
+        QCOMPARE(host.page(), "page_lowercase");
     }
-}
 
-void TestKeyboard::enlargedLabelFollowsTheFinger()
-{
-    Host host;
-    const QRect first = host.key("1")->geometry();
-    pressAt(&host, first.center());
-    QVERIFY(host.enlarged());
-    QCOMPARE(host.enlarged()->text(), "1");
-    QCOMPARE(host.enlarged()->geometry(), QRect(first.x() - 2, 78, 88, 88));
-
-    // Off the key and on again, without typing anything yet.
-    moveTo(&host, {400, 40});
-    QVERIFY(!host.enlarged());
-    moveTo(&host, first.center());
-    QVERIFY(host.enlarged() && host.line->text().isEmpty());
-    releaseAt(&host, first.center());
-    QVERIFY(!host.enlarged());
-    QCOMPARE(host.line->text(), "1");
-
-    // It goes with its page.
-    pressAt(&host, first.center());
-    host.hide();
-    host.show();
-    QVERIFY(!host.enlarged() && !host.key("1")->isDown());
-    releaseAt(&host, first.center());
-    QCOMPARE(host.line->text(), "1");
-}
-
-void TestKeyboard::pressRepaintsOnlyWhatChanges()
-{
-    Host host;
-    const QRect key = host.key("g")->geometry();
-    // Twice: the first press is the one that gives the enlarged label its style.
-    for (int round = 0; round < 2; ++round) {
-        QCoreApplication::processEvents();
-        PaintWatch watch(&host);
-        tapAt(&host, key.center());
-        QTRY_VERIFY(watch.painted.intersects(host.line->geometry()));
-        const QRect bubble(key.center().x() - 45, key.top() - 98, 90, 98);
-        QVERIFY((watch.painted - key - bubble - host.line->geometry()).isEmpty());
+    void typingNeedsALine()
+    {
+        MessageLog log;
+        const KeyBorad orphan(nullptr);
+        QVERIFY(log.contains("keyboard without a line edit"));
+        Host host;
+        delete host.line;
+        host.tapKeys({"a", "button_delete", "button_enter"});
+        QCOMPARE(host.committed(), QString());
     }
-}
-
-void TestKeyboard::pagesTakeTurns()
-{
-    Host host;
-    auto *shift = host.findChild<QPushButton *>("button_shiftNormal");
-    QCOMPARE(host.page(), "page_lowercase");
-    host.tapKey("button_symbol");
-    QCOMPARE(host.page(), "page_symbol");
-    host.tapKey("button_character");
-    QCOMPARE(host.page(), "page_lowercase");
-
-    // Shift acts on press and stays; the symbols lead back to the case in use.
-    pressAt(&host, shift->geometry().center());
-    QCOMPARE(host.page(), "page_uppercase");
-    releaseAt(&host, shift->geometry().center());
-    QVERIFY(!shift->isDown());
-    host.tapKey("button_symbol_2");
-    host.tapKey("button_character");
-    QCOMPARE(host.page(), "page_uppercase");
-    host.tapKey("button_shiftChecked");
-    QCOMPARE(host.page(), "page_lowercase");
-}
-
-void TestKeyboard::wideKeysEdit()
-{
-    Host host;
-    QSignalSpy commit(host.keyboard, &KeyBorad::signal_commit);
-    MessageLog log;
-    host.tapKey("button_delete");
-    QCOMPARE(host.line->text(), QString());
-    tap(host.key("a"));
-    host.tapKey("button_blank");
-    tap(host.key("b"));
-    host.line->setCursorPosition(0);
-    host.tapKey("button_delete");
-    host.tapKey("button_symbol");
-    host.tapKey("button_blank_3");
-    host.tapKey("button_enter_3");
-    QCOMPARE(commit.takeFirst().first().toString(), "a  ");
-    QVERIFY(log.contains("\"a  \""));
-    for (int i = 0; i < 4; ++i)
-        host.tapKey("button_delete_3");
-    host.tapKey("button_enter_3");
-    QCOMPARE(commit.takeFirst().first().toString(), QString());
-}
-
-void TestKeyboard::typingNeedsALine()
-{
-    MessageLog log;
-    Host lineless(false);
-    KeyBorad orphan(nullptr);
-    QCOMPARE(log.count("keyboard without a line edit"), 2);
-    QSignalSpy commit(lineless.keyboard, &KeyBorad::signal_commit);
-    tap(lineless.key("a"));
-    lineless.tapKey("button_delete");
-    lineless.tapKey("button_enter");
-    QCOMPARE(commit.count(), 1);
-
-    Host host;
-    delete host.line;
-    tap(host.key("a"));
-}
+};
 
 ZELL_TEST_MAIN(TestKeyboard)
 #include "test_keyboard.moc"

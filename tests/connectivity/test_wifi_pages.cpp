@@ -1,6 +1,5 @@
 #include "connectivity/SetWifiPage.h"
 #include "connectivity/passwordKeyboard.h"
-#include "connectivity/wifiConnectResult.h"
 #include "pages/PagePattern.h"
 #include "tests/support/Environment.h"
 #include "tests/support/MessageLog.h"
@@ -11,69 +10,65 @@
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QStackedWidget>
-#include <QTimer>
+#include <functional>
 
 namespace {
-void write(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
-// The scanner of this test: prints what scanFinds() was given.
-void installScanner()
-{
-    const QString folder = Environment::deviceRoot() + "/scanner";
-    write(folder + "/iwlist", "#!/bin/sh\necho \"$@\" > \"${0%/*}/arguments\"\n"
-                              "cat \"${0%/*}/result\"\n");
-    QFile::setPermissions(folder + "/iwlist", QFile::ReadOwner | QFile::ExeOwner);
-    qputenv("PATH", QFile::encodeName(folder) + ':' + qgetenv("PATH"));
-}
-
 void scanFinds(const QList<QByteArray> &names)
 {
     QByteArray result = "wlan1     Scan completed :\n";
     for (const QByteArray &name : names)
         result += QByteArray(20, ' ') + "ESSID:\"" + name + "\"\n";
     Environment::writeDeviceFile("/scanner/result", result);
+    QDir().mkpath("../resource");
 }
+
+const QStringList parts{"listView", "scrollArea", "label_noWifi", "icon_noWifi", "info_noWifi"};
 
 // The page in the holder of a menu.
 struct Screen
 {
     Screen()
     {
-        auto *holder = new QWidget;
         window.addWidget(new QWidget);
-        window.addWidget(holder);
+        window.addWidget(new QWidget);
         window.resize(854, 480);
         window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            qFatal("no window");
-        page = openPage<SetWifiPage>(&window, &window, holder, &QWidget::update);
+        page = openPage<SetWifiPage>(static_cast<QWidget *>(&window), &window, window.widget(1),
+                                     &QWidget::clearFocus);
         list = page->findChild<QListView *>("listView");
     }
 
-    QString state(int row) const
-    {
-        return list->model()->index(row, 0).data(Qt::CheckStateRole).toString();
-    }
-    QString name(int row) const { return list->model()->index(row, 0).data().toString(); }
+    void tapRow(int row) { tapAt(&window, rowAt(row)); }
+    void tapBack() { tapAt(&window, {40, 40}); }
     QPoint rowAt(int line) const { return {400, 80 + 80 * line + 40}; }
-    QString current() const
+    // Runs @p action from the event loop after every change of a connect state.
+    void whileConnecting(const std::function<void()> &action)
     {
-        return page->findChild<QStackedWidget *>("stackedWidget")->currentWidget()->objectName();
+        QObject::connect(list->model(), &QAbstractItemModel::modelReset, &window, action,
+                         Qt::QueuedConnection);
     }
-    qsizetype passwordPages() const { return page->findChildren<passwordKeyboard *>().size(); }
+    // Of every network the name or the digit of the connect state.
+    QString all(int role = Qt::CheckStateRole) const
+    {
+        QString text;
+        for (int row = 0; row < list->model()->rowCount(); ++row)
+            text += list->model()->index(row, 0).data(role).toString();
+        return text;
+    }
+    auto current() { return page->findChild<QStackedWidget *>()->currentWidget()->objectName(); }
+    auto passwordPages() const { return page->findChildren<passwordKeyboard *>(); }
 
     QStackedWidget window;
     QPointer<SetWifiPage> page;
     QListView *list;
 };
+
+QStringList visibleOf(QWidget *page, QStringList names)
+{
+    names.removeIf([page](const QString &name) { return !visibleChild(page, name); });
+    return names;
+}
 } // namespace
 
 class TestWifiPages : public QObject
@@ -81,175 +76,147 @@ class TestWifiPages : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { installScanner(); }
-    void init() { QDir().mkpath("../resource"); }
-    void scanIsListed();
-    void withoutAResultThereIsNoWifi();
-    void workingDirectoryIsNotExecuted();
-    void tapOpensThePasswordPage();
-    void secondTapTakesOver();
-    void pageMayGoWhileConnecting();
-    void pageMayBeLeftWhileConnecting();
-    void dragScrollsAndChoosesNothing();
-    void resultPageShowsSuccess();
-};
-
-void TestWifiPages::scanIsListed()
-{
-    scanFinds({"Home", "", "it's \"mine\"", "Home"});
-    MessageLog log;
-    Screen screen;
-    QFile arguments(Environment::deviceRoot() + "/scanner/arguments");
-    QVERIFY(arguments.open(QIODevice::ReadOnly));
-    QCOMPARE(arguments.readAll(), "wlan1 scanning\n");
-    QCOMPARE(screen.list->model()->rowCount(), 4);
-    QCOMPARE(screen.name(2), "it's \"mine\"");
-    QVERIFY(visibleChild(screen.page, "scrollArea") && !visibleChild(screen.page, "label_noWifi"));
-    QVERIFY(log.contains("strEverySSIDName \"Home\""));
-
-    screen.page->onListWifiItemClicked({}, {});
-    QCOMPARE(screen.passwordPages(), 0);
-    screen.page->startTimer(1);
-    QTRY_VERIFY(screen.list->model()->rowCount() > 4);
-    QCOMPARE(screen.name(0), "A");
-}
-
-void TestWifiPages::withoutAResultThereIsNoWifi()
-{
-    scanFinds({});
-    write("../resource/WiFi-SSID.txt", "the result of an earlier scan");
-    MessageLog log;
-    for (const bool folder : {true, false}) {
-        if (!folder)
-            QVERIFY(QDir("../resource").removeRecursively());
-        Screen screen;
-        for (const char *name : {"label_noWifi", "icon_noWifi", "info_noWifi"})
-            QVERIFY(visibleChild(screen.page, name));
-        QVERIFY(!visibleChild(screen.page, "listView") && !visibleChild(screen.page, "scrollArea"));
-        QSignalSpy back(screen.page, &SetWifiPage::signal_backDefaultPage);
-        tap(visibleChild(screen.page, "button_back"));
-        QCOMPARE(back.count(), 1);
-    }
-    QCOMPARE(log.count("file zize =  0"), 2);
-}
-
-void TestWifiPages::workingDirectoryIsNotExecuted()
-{
-    scanFinds({"Home"});
-    const QString home = QDir::currentPath();
-    const QString directory = "a b;touch x'\"$(id)";
-    QVERIFY(QDir().mkpath("place/" + directory) && QDir().mkpath("place/resource"));
-    QDir::setCurrent("place/" + directory);
+    // The scanner of this test prints what scanFinds() was given.
+    void initTestCase()
     {
-        Screen screen;
-        QCOMPARE(screen.name(0), "Home");
+        Environment::writeDeviceScript(
+            "/scanner/iwlist", "echo \"$@\" > \"${0%/*}/arguments\"; cat \"${0%/*}/result\"");
+        qputenv("PATH",
+                QFile::encodeName(Environment::deviceRoot()) + "/scanner:" + qgetenv("PATH"));
     }
-    QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
-    QDir::setCurrent(home);
-    QCOMPARE(QDir("place").entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             (QStringList{directory, "resource"}));
-    QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("place"));
-}
 
-void TestWifiPages::tapOpensThePasswordPage()
-{
-    scanFinds({"Home", "Studio"});
-    Screen screen;
-    QString meanwhile;
-    QTimer::singleShot(100, screen.page, [&] { meanwhile = screen.state(1) + screen.current(); });
-    tapAt(&screen.window, screen.rowAt(1));
-    QCOMPARE(meanwhile, "3page_defalut");
-    QCOMPARE(screen.state(0) + screen.state(1), "01");
-    QCOMPARE(screen.current(), "page_passwordKeyboard");
+    void scanIsListed()
+    {
+        scanFinds({"Home", "", "Home"});
+        MessageLog log;
+        Screen screen;
+        QCOMPARE(Environment::contentOf(Environment::deviceRoot() + "/scanner/arguments"),
+                 "wlan1 scanning\n");
+        QCOMPARE(screen.all(), "000");
+        QCOMPARE(visibleOf(screen.page, parts), parts.first(2));
+        QCOMPARE(log.count("strEverySSIDName \"Home\""), 2);
+        screen.page->onListWifiItemClicked({}, {});
+        QCOMPARE(screen.current(), "page_defalut");
+        screen.page->startTimer(1);
+        QTRY_VERIFY(screen.all(Qt::DisplayRole).endsWith("AHomeHome"));
+    }
 
-    auto *line = static_cast<QLineEdit *>(visibleChild(screen.page, "lineEdit"));
-    tapAt(&screen.window, {68, 206});
-    QCOMPARE(line->text(), "1");
-    QCOMPARE(line->echoMode(), QLineEdit::Password);
-    MessageLog log;
-    tap(visibleChild(screen.page, "button_enter"));
-    QVERIFY(log.contains("check password backstage..."));
-    QCOMPARE(screen.current(), "page_defalut");
+    // The result of the scan before is still there, and then not even its folder.
+    void withoutAResultThereIsNoWifi()
+    {
+        scanFinds({});
+        MessageLog log;
+        for (const bool folder : {true, false}) {
+            QVERIFY(folder || QDir("../resource").removeRecursively());
+            Screen screen;
+            QCOMPARE(visibleOf(screen.page, parts), parts.last(3));
+            screen.tapBack();
+        }
+        QCOMPARE(log.count("file zize =  0"), 2);
+        QCOMPARE(log.count("Timer Killed"), 2);
+    }
 
-    // The same network once more: a fresh page above the old one, left by its arrow.
-    tapAt(&screen.window, screen.rowAt(1));
-    QCOMPARE(screen.passwordPages(), 2);
-    QVERIFY(screen.page->findChildren<passwordKeyboard *>().last()->isVisible());
-    tapAt(&screen.window, {40, 40});
-    QCOMPARE(screen.current(), "page_defalut");
-}
+    void workingDirectoryIsNotExecuted()
+    {
+        scanFinds({"Home"});
+        const QString home = QDir::currentPath();
+        const QString directory = "a b;touch x'\"$(id)";
+        QVERIFY(QDir().mkpath("place/" + directory) && QDir().mkpath("place/resource"));
+        QDir::setCurrent("place/" + directory);
+        QCOMPARE(Screen().all(Qt::DisplayRole), "Home");
+        QVERIFY(QDir().isEmpty());
+        QDir::setCurrent(home);
+        QCOMPARE(QDir("place").count(), 4U);
+        QCOMPARE(QDir().count(), 3U);
+    }
 
-void TestWifiPages::secondTapTakesOver()
-{
-    scanFinds({"Home", "Studio", "Guest"});
-    Screen screen;
-    QTimer::singleShot(100, screen.page, [&] { tapAt(&screen.window, screen.rowAt(2)); });
-    QTimer::singleShot(200, screen.page, [&] { tapAt(&screen.window, screen.rowAt(1)); });
-    tapAt(&screen.window, screen.rowAt(0));
-    QCOMPARE(screen.state(0) + screen.state(1) + screen.state(2), "010");
-    QCOMPARE(screen.passwordPages(), 1);
-}
+    void tapOpensThePasswordPage()
+    {
+        scanFinds({"Home", "Studio"});
+        Screen screen;
+        QString meanwhile;
+        screen.whileConnecting([&] { meanwhile += screen.all() + screen.current(); });
+        screen.tapRow(1);
+        QVERIFY(meanwhile.startsWith("03page_defalut"));
+        QCOMPARE(screen.all() + screen.current(), "01page_passwordKeyboard");
 
-void TestWifiPages::pageMayGoWhileConnecting()
-{
-    scanFinds({"Home"});
-    Screen screen;
-    QTimer::singleShot(100, screen.page, [&] { delete screen.page; });
-    tapAt(&screen.window, screen.rowAt(0));
-    QVERIFY(!screen.page);
-}
+        tapAt(&screen.window, {68, 206});
+        QCOMPARE(screen.page->findChild<QLineEdit *>()->displayText().size(), 1);
+        QVERIFY(screen.page->findChild<QLineEdit *>()->displayText() != "1");
+        MessageLog log;
+        tap(visibleChild(screen.page, "button_enter"));
+        QVERIFY(log.contains("check password backstage..."));
+        QCOMPARE(screen.current(), "page_defalut");
 
-void TestWifiPages::pageMayBeLeftWhileConnecting()
-{
-    scanFinds({"Home"});
-    Screen screen;
-    MessageLog log;
-    QTimer::singleShot(100, screen.page, [&] { tapAt(&screen.window, {40, 40}); });
-    tapAt(&screen.window, screen.rowAt(0));
-    QCOMPARE(log.count("Timer Killed"), 1);
-    QTRY_VERIFY(screen.page->findChildren<QWidget *>().isEmpty());
-}
+        // The same network once more: a fresh page above the old one, left by its arrow.
+        screen.tapRow(1);
+        QCOMPARE(screen.passwordPages().size(), 2);
+        QVERIFY(screen.passwordPages().last()->isVisible());
+        screen.tapBack();
+        QCOMPARE(screen.current(), "page_defalut");
+    }
 
-void TestWifiPages::dragScrollsAndChoosesNothing()
-{
-    scanFinds(QList<QByteArray>(500, "Network"));
-    Screen screen;
-    QScrollBar *bar = screen.list->verticalScrollBar();
-    QCOMPARE(bar->maximum(), 500 * 80 - 400);
-    drag(&screen.window, screen.rowAt(4), screen.rowAt(1));
-    QTRY_VERIFY(bar->value() >= 240);
-    QCOMPARE(screen.passwordPages(), 0);
-    QVERIFY(!screen.list->selectionModel()->hasSelection());
+    // Four choices may wait at a time, the first one included; the last of them counts.
+    void tapsMeanwhileTakeOver()
+    {
+        scanFinds({"Home", "Studio", "Guest"});
+        Screen screen;
+        MessageLog log;
+        QList<int> rows{2, 0, 1, 2};
+        screen.whileConnecting([&] {
+            if (!rows.isEmpty())
+                screen.tapRow(rows.takeFirst());
+        });
+        screen.tapRow(0);
+        QCOMPARE(log.count("the tap is ignored"), 1);
+        QCOMPARE(screen.all(), "010");
+        QCOMPARE(screen.passwordPages().size(), 4);
+        screen.tapBack();
+        QCOMPARE(screen.current(), "page_defalut");
+    }
 
-    // A fingertip rolls a little, and the list stays where it is.
-    bar->setValue(8000);
-    pressAt(&screen.window, screen.rowAt(2));
-    moveTo(&screen.window, screen.rowAt(2) + QPoint(6, 0));
-    releaseAt(&screen.window, screen.rowAt(2) + QPoint(6, 0));
-    QCOMPARE(screen.state(102), "1");
-    QCOMPARE(bar->value(), 8000);
-}
+    void pageMayGoWhileConnecting()
+    {
+        scanFinds({"Home"});
+        for (const bool deleted : {true, false}) {
+            Screen screen;
+            screen.whileConnecting([&] { deleted ? delete screen.page : screen.tapBack(); });
+            screen.tapRow(0);
+            QTRY_VERIFY(!screen.page || screen.page->findChildren<QWidget *>().isEmpty());
+        }
+    }
 
-void TestWifiPages::resultPageShowsSuccess()
-{
-    QWidget window;
-    window.resize(854, 480);
-    passwordKeyboard page(&window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    page.jump_wifiConnectResult_page();
-    QVERIFY(visibleChild(&page, "label_success") && visibleChild(&page, "label_infoSuccess"));
-    for (const char *name :
-         {"label_fail", "label_infoFail", "button_forgetFail", "button_retryFail"})
-        QVERIFY(!visibleChild(&page, name));
+    void dragScrollsAndChoosesNothing()
+    {
+        scanFinds(QList<QByteArray>(500, "Network"));
+        Screen screen;
+        QScrollBar *bar = screen.list->verticalScrollBar();
+        QCOMPARE(bar->maximum(), 500 * 80 - 400);
+        drag(&screen.window, screen.rowAt(4), screen.rowAt(1));
+        QTRY_VERIFY(bar->value() >= 240);
+        QVERIFY(!screen.list->selectionModel()->hasSelection());
+        // A fingertip rolls a little, and the list stays where it is.
+        bar->setValue(8000);
+        drag(&screen.window, screen.rowAt(2), screen.rowAt(2) + QPoint(6, 0));
+        QCOMPARE(screen.all().indexOf("1"), 102);
+        QCOMPARE(bar->value(), 8000);
+    }
 
-    MessageLog log;
-    tap(visibleChild(&page, "button_forgetSuccess"));
-    page.findChild<QPushButton *>("button_forgetFail")->click();
-    page.findChild<QPushButton *>("button_retryFail")->click();
-    QCOMPARE(log.count("forget this wifi..."), 2);
-    QCOMPARE(log.count("retry wifi connect..."), 1);
-}
+    void resultPageShowsSuccess()
+    {
+        passwordKeyboard page(nullptr);
+        page.show();
+        page.jump_wifiConnectResult_page();
+        QCOMPARE(visibleOf(&page, {"label_success", "label_infoSuccess", "button_forgetSuccess",
+                                   "label_fail", "label_infoFail", "button_retryFail"}),
+                 (QStringList{"label_success", "label_infoSuccess", "button_forgetSuccess"}));
+        MessageLog log;
+        for (const char *name : {"button_forgetSuccess", "button_forgetFail", "button_retryFail"})
+            page.findChild<QPushButton *>(name)->click();
+        QCOMPARE(log.count("forget this wifi..."), 2);
+        QCOMPARE(log.count("retry wifi connect..."), 1);
+    }
+};
 
 ZELL_TEST_MAIN(TestWifiPages)
 #include "test_wifi_pages.moc"
