@@ -44,7 +44,7 @@ private slots:
         QTEST(texts().join(' '), "rows");
         QVERIFY(rows().size() == 2 || areRowsWithoutGap());
         const char *const shades[] = {"#00e5ff", "#a9a9aa", "#646464", "#373739"};
-        const int current = int(rows().size()) / 2;
+        const int current = int(rows().size() / 2);
         QCOMPARE(middleOf(rows()[current]), current == 1 ? 107.5 : 182.5);
         for (int row = 0; row < rows().size(); ++row)
             QCOMPARE(rows()[row]->property("color").toString(), shades[std::abs(row - current)]);
@@ -106,11 +106,9 @@ private slots:
         const QString relative = QFileInfo(folder.path()).fileName();
         host->setMainQmlFile(relative + "/one.qml");
         QVERIFY(host->rootObject() != nullptr && host->currentIndex() == -1);
-        QCOMPARE(log.lines(), QStringList());
         host->setMainQmlFile("no such.qml");
-        QVERIFY(!page->grab().isNull() && host->rootObject() == nullptr);
-        QCOMPARE(log.count("no such.qml"), 1);
-
+        QVERIFY(host->rootObject() == nullptr && host->currentIndex() == -1);
+        QVERIFY(log.lines().size() == 1 && log.contains("no such.qml"));
         QmlApplicationViewer(host, page.get()).addImportPath(relative);
         QCOMPARE(QmlApplicationViewer(nullptr, nullptr).engine()->importPathList().first(),
                  QDir(folder.path()).canonicalPath());

@@ -100,9 +100,6 @@ private slots:
         }
         tap(shown("button_setNightMode"));
         QVERIFY(!shown("frame_startTime"));
-        tap(shown("button_back"));
-        open("option_frame_nightPattern");
-        QVERIFY(shown("frame_startTime"));
     }
 
     void bothTimesOpenAFreshPage()
