@@ -2,11 +2,13 @@
 
 #include "acquisition/GetData.h"
 #include "shell/Global_cfg.h"
+#include "store/DamagedFile.h"
 #include "store/StoreRules.h"
 
 #include <QDebug>
 #include <QFile>
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
 
@@ -47,23 +49,28 @@ const Table *findTable(const QString &name)
     return nullptr;
 }
 
-bool insertRow(const Table &table, time_t time, const QList<int> &values)
+QString insertStatement(const Table &table)
+{
+    return QStringLiteral("insert into %1 values( ?, ?, ?%2)")
+        .arg(table.name, table.takesBoth ? QStringLiteral(", ?") : QString());
+}
+
+QSqlError execute(const QString &statement, const QVariantList &values)
 {
     const QSqlDatabase database = connection();
     if (!database.isOpen())
-        return false;
+        return QSqlError({}, {}, QSqlError::ConnectionError);
     QSqlQuery query(database);
-    query.prepare(QStringLiteral("insert into %1 values( ?, ?%2)")
-                      .arg(table.name, QStringLiteral(", ?").repeated(values.size())));
-    query.addBindValue(quint32(time));
-    query.addBindValue(localTimeText(time));
-    for (const int value : values)
-        query.addBindValue(value);
-    return query.exec();
+    if (query.prepare(statement)) {
+        for (const QVariant &value : values)
+            query.addBindValue(value);
+        query.exec();
+    }
+    return query.lastError();
 }
 
 /// Whether the row stored last holds @p values. A row that is missing or unreadable differs.
-bool repeatsLastRow(const Table &table, const QList<int> &values)
+bool repeatsLastRow(const Table &table, const QVariantList &values)
 {
     const QSqlDatabase database = connection();
     if (!database.isOpen())
@@ -75,7 +82,7 @@ bool repeatsLastRow(const Table &table, const QList<int> &values)
     if (!query.next())
         return false;
     for (int column = 0; column < values.size(); ++column) {
-        if (query.value(column).toInt() != values[column])
+        if (query.value(column).toInt() != values[column].toInt())
             return false;
     }
     return true;
@@ -126,27 +133,18 @@ void ZellDatabase::CreateDataBaseTable(const QString &statement)
 void ZellDatabase::DeleteDataBaseTimeItem(const QString &tableName, long now)
 {
     const Table *table = findTable(tableName);
-    const QSqlDatabase database = connection();
-    if (table == nullptr || !table->isMain || !database.isOpen())
-        return;
-    QSqlQuery query(database);
-    query.prepare(QStringLiteral("delete from %1 where UnixSec <= ?").arg(table->name));
-    query.addBindValue(quint32(retentionCutoff(now)));
-    query.exec();
+    if (table != nullptr && table->isMain) {
+        change(QStringLiteral("delete from %1 where UnixSec <= ?").arg(table->name),
+               {quint32(retentionCutoff(now))});
+    }
 }
 
 void ZellDatabase::DeleteDataBaseItem(const QString & /*tableName*/, const QString & /*column*/,
                                       const QString &value)
 {
-    const QSqlDatabase database = connection();
-    if (!database.isOpen())
-        return;
-    QSqlQuery query(database);
     // QString::arg knows no %s: names put in that way would leave this text as it is, with a
     // warning from Qt on top.
-    query.prepare(QStringLiteral("delete from %s where %s = ?"));
-    query.addBindValue(value);
-    query.exec();
+    execute(QStringLiteral("delete from %s where %s = ?"), {value});
 }
 
 void ZellDatabase::QueryPm25Values()
@@ -167,19 +165,39 @@ void ZellDatabase::InsertDataBaseItem(time_t iTimeSec, const QString &tableName,
     const bool online = networkAvailable();
 
     const Table *table = findTable(tableName);
-    const QList<int> values =
-        table != nullptr && table->takesBoth ? QList<int>{value, value2} : QList<int>{value2};
+    const QVariantList values =
+        table != nullptr && table->takesBoth ? QVariantList{value, value2} : QVariantList{value2};
+    const QVariantList row = QVariantList{quint32(iTimeSec), localTimeText(iTimeSec)} + values;
 
     const bool isMain = table != nullptr && table->isMain;
-    if (isMain && !repeatsLastRow(*table, values) && insertRow(*table, iTimeSec, values))
+    if (isMain && !repeatsLastRow(*table, values) && change(insertStatement(*table), row))
         GetData::iLastUnixSec = iTimeSec;
     else
         qDebug() << "Insert fail!";
 
     if (online)
         return;
-    if (table == nullptr || isMain || !insertRow(*table, iTimeSec, values))
+    if (table == nullptr || isMain || !change(insertStatement(*table), row))
         qDebug() << "Insert NoWiFi table fail!";
+}
+
+/// Executes a statement that writes. Without this a damaged file would refuse every row for ever:
+/// it gives way to a new one, on which the statement is tried once more.
+bool ZellDatabase::change(const QString &statement, const QVariantList &values)
+{
+    const QSqlError error = execute(statement, values);
+    if (!isDamage(error))
+        return !error.isValid();
+    QSqlDatabase database = connection();
+    const QString fileName = database.databaseName();
+    database.close();
+    const bool isNew = setAside(fileName);
+    CreateDataBase(fileName);
+    if (!isNew)
+        return false;
+    for (const QString &table : tableStatements())
+        CreateDataBaseTable(table);
+    return !execute(statement, values).isValid();
 }
 
 /// Builds the scheduler that every insert adds and asks it whether there is a network.

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QThread>
+#include <QVariantList>
 #include <ctime>
 #include <memory>
 #include <vector>
@@ -13,7 +14,8 @@ class GetData;
 /// Works in the thread of its caller, the GUI thread; its own thread never runs. A failure is told
 /// by one debug line where the function says so and is otherwise silent: nothing is retried, no
 /// error reaches the caller, and the program goes on. A locked file is waited for a tenth of a
-/// second at the most, so that the screen never freezes.
+/// second at the most, so that the screen never freezes. A damaged file is set aside and begun
+/// anew.
 class ZellDatabase : public QThread
 {
     Q_OBJECT
@@ -56,6 +58,7 @@ protected:
     void run() override;
 
 private:
+    bool change(const QString &statement, const QVariantList &values);
     bool networkAvailable();
 
     std::vector<std::unique_ptr<GetData>> schedulers;
