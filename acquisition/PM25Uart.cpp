@@ -36,7 +36,8 @@ bool PM25Uart::openUart(const QString &name)
         qDebug() << "Current UART --------------- " << info.portName();
 
     if (port != nullptr) {
-        // It holds the lock on the line: left open, it would keep the new one out for good.
+        // It holds the lock on the line: left open, it would keep the new one out for good. And one
+        // port kept for every sampling would add up over the months that a device runs.
         port->close();
         port->deleteLater();
     }

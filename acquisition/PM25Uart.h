@@ -20,15 +20,15 @@ public:
     /// Closes a link that is still open, so that the sensor is not left running.
     ~PM25Uart() override;
 
-    /// Switches the supply on and opens the port @p name ("ttyUSB0"). A port that is still open is
-    /// given up first, as a line serves one port only. False, with a debug line and the supply left
-    /// on, where it cannot be opened.
+    /// Switches the supply on and opens the port @p name ("ttyUSB0"). The port of the time before
+    /// is given up first, as a line serves one port only. False, with a debug line and the supply
+    /// left on, where it cannot be opened.
     bool openUart(const QString &name);
 
     /// Switches the supply off and closes the port. Harmless where nothing is open.
     void closeUart();
 
-    /// Write "1" and "0" to the sensor's supply switch. Silent where there is none.
+    /// Write "1" and "0" to the sensor's supply switch. Silent where it cannot be opened.
     void power_on();
     void power_off();
 
