@@ -4,7 +4,7 @@
 #include <QTextStream>
 
 namespace {
-constexpr qint64 longestFile = 64 * 1024;
+constexpr qint64 longestFile = 65536;
 }
 
 QString readLanguageFile(const QString &directory)

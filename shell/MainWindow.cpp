@@ -62,11 +62,13 @@ void MainWindow::connect_init()
 
 void MainWindow::time_update()
 {
-    const std::time_t now = std::time(nullptr);
+    std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
     ++local.tm_sec;
     static_cast<void>(std::mktime(&local));
+    now = std::time(nullptr);
+    localtime_r(&now, &local);
 }
 
 void MainWindow::change_status()

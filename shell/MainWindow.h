@@ -42,9 +42,9 @@ private:
     void connect_init();
 
     std::unique_ptr<Ui::MainWindow> ui;
+    MainView *mainView = nullptr;
     bool active = true;
     /// Never opened: the line belongs to the schedulers.
     PM25Uart uart;
-    MainView *mainView;
-    OptionPage *optionPage;
+    OptionPage *optionPage = nullptr;
 };

@@ -21,7 +21,7 @@ int main(int argc, char *argv[])
     const auto database = std::make_unique<ZellDatabase>();
     zelldatabase = database.get();
     GetData scheduler;
-    QTimer randUARTSignal;
+    QTimer randUARTSignal; // a spare: never started
     Q_INIT_RESOURCE(ZellQt);
 
     g_sLanguage = readLanguageFile(QDir::currentPath());
