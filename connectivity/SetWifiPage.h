@@ -25,8 +25,6 @@ class SetWifiPage : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit SetWifiPage(QWidget *parent = nullptr);
     ~SetWifiPage() override;
 

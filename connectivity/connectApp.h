@@ -14,8 +14,6 @@ class connectApp : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit connectApp(QWidget *parent = nullptr);
     ~connectApp() override;
 

@@ -16,8 +16,6 @@ class locationResult : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit locationResult(QWidget *parent = nullptr);
     ~locationResult() override;
 

@@ -18,8 +18,6 @@ class passwordKeyboard : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit passwordKeyboard(QWidget *parent);
     ~passwordKeyboard() override;
 

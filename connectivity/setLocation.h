@@ -14,8 +14,6 @@ class setLocation : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit setLocation(QWidget *parent = nullptr);
     ~setLocation() override;
 

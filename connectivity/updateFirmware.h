@@ -24,8 +24,6 @@ class updateFirmware : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit updateFirmware(QWidget *parent = nullptr);
     ~updateFirmware() override;
 

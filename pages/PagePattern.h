@@ -2,7 +2,6 @@
 
 #include "pages/EmptyPage.h"
 #include "pages/Ground.h"
-#include "pages/PageBehind.h"
 
 #include <QStackedWidget>
 
@@ -24,18 +23,16 @@ void showPage(Page *page, Opener *opener, QStackedWidget *stack, QWidget *holder
 
 /// The way every sub-page is opened.
 ///
-/// Builds a fresh @p Page inside @p holder and shows it. The pages of earlier visits stay until the
-/// opener goes, made cheap by lightenPageBehind(); of a Page with a member named emptiedWhenLeft
-/// only the empty frame stays, see emptyPage(). Returns the new page, owned by @p holder.
+/// Builds a fresh @p Page inside @p holder and shows it. When the page is left, by its
+/// signal_backDefaultPage(), its widgets go, see emptyPage(); the page itself stays as an empty
+/// frame until the opener goes. What the page still does then must be done by objects that know
+/// nothing of its widgets. Returns the new page, owned by @p holder.
 template <class Page, class Opener>
 Page *openPage(Opener *opener, QStackedWidget *stack, QWidget *holder, void (Opener::*goBack)())
 {
     auto *page = new Page(holder);
     showPage(page, opener, stack, holder, goBack);
-    if constexpr (requires { Page::emptiedWhenLeft; })
-        QObject::connect(page, &Page::signal_backDefaultPage, page, [page] { emptyPage(page); });
-    else
-        lightenPageBehind(page);
+    QObject::connect(page, &Page::signal_backDefaultPage, page, [page] { emptyPage(page); });
     return page;
 }
 

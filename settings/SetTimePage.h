@@ -15,8 +15,6 @@ class SetTimePage : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit SetTimePage(QWidget *parent = nullptr);
     ~SetTimePage() override;
 

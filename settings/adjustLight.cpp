@@ -1,33 +1,14 @@
 #include "settings/adjustLight.h"
 
-#include "device/DevicePath.h"
 #include "pages/SwitchCaptions.h"
-#include "settings/Backlight.h"
 #include "ui_adjustLight.h"
 
-#include <QDebug>
-#include <QFile>
-#include <algorithm>
 #include <chrono>
-#include <optional>
+
+using BacklightLevel::Groove;
 
 namespace {
 constexpr std::chrono::seconds sensorInterval{1};
-constexpr int lowLimit = 8;
-constexpr int lowLevel = 10;
-constexpr int fullLimit = 257;
-constexpr int fullLevel = 255;
-
-std::optional<int> readLightSensor()
-{
-    constexpr qint64 longestNumber = 64;
-    QFile file(devicePath(QStringLiteral("/sys/devices/virtual/input/input3/light_val")));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return std::nullopt;
-    bool isNumber = false;
-    const int level = file.read(longestNumber).trimmed().toInt(&isNumber);
-    return isNumber ? std::optional(level) : std::nullopt;
-}
 
 QString sliderStyle(const char *left, const char *right)
 {
@@ -48,66 +29,48 @@ adjustLight::adjustLight(QWidget *parent)
     , ui(std::make_unique<Ui::adjustLight>())
 {
     ui->setupUi(this);
+    QSlider *slider = ui->slider_light;
+    slider->setRange(BacklightLevel::lowest, BacklightLevel::highest);
+    slider->setValue(light.level());
     styleSlider(Groove::Normal);
     captionSwitch(ui->checkBox_adjustLight, ui->button_close, ui->button_on);
 
     connect(&sensorTimer, &QTimer::timeout, this, &adjustLight::cause_lightUpdate);
     sensorTimer.start(sensorInterval);
-    ui->checkBox_adjustLight->setChecked(true);
+    ui->checkBox_adjustLight->setChecked(light.isAutomatic());
     check_lightAdjust();
     connect(ui->checkBox_adjustLight, &QCheckBox::clicked, this, &adjustLight::check_lightAdjust);
-    connect(ui->slider_light, &QSlider::valueChanged, this, &adjustLight::light_valueChanged);
+    connect(slider, &QSlider::valueChanged, this, &adjustLight::light_valueChanged);
+    // The slider as context: these end with it, the light goes on.
+    connect(&light, &BacklightControl::levelChanged, slider, &QSlider::setValue);
+    connect(&light, &BacklightControl::grooveChanged, slider,
+            [this](Groove wanted) { styleSlider(wanted); });
 }
 
 adjustLight::~adjustLight() = default;
 
 void adjustLight::check_lightAdjust()
 {
-    const bool automatic = ui->checkBox_adjustLight->isChecked();
-    ui->slider_light->setEnabled(!automatic);
-    ui->frame_veil->setVisible(automatic);
+    light.setAutomatic(ui->checkBox_adjustLight->isChecked());
+    ui->slider_light->setEnabled(!light.isAutomatic());
+    ui->frame_veil->setVisible(light.isAutomatic());
 }
 
 void adjustLight::on_button_back_clicked()
 {
-    leftBehind = true;
+    light.leaveBehind();
     emit signal_backDefaultPage();
 }
 
 void adjustLight::light_valueChanged(int iSliderValue)
 {
-    ui->slider_light->setEnabled(!ui->checkBox_adjustLight->isChecked());
-    qDebug("iSliderValue is %d", iSliderValue);
-    if (iSliderValue < lowLimit) {
-        ui->slider_light->setValue(lowLevel);
-        styleSlider(Groove::Low);
-    } else if (iSliderValue >= fullLimit) {
-        ui->slider_light->setValue(fullLevel);
-        styleSlider(Groove::Full);
-    } else if (iSliderValue > lowLevel) {
-        styleSlider(Groove::Normal);
-    }
-    setBacklight(iSliderValue);
+    ui->slider_light->setEnabled(!light.isAutomatic());
+    light.setLevel(iSliderValue);
 }
 
 void adjustLight::cause_lightUpdate()
 {
-    if (!ui->checkBox_adjustLight->isChecked())
-        return;
-    const std::optional<int> level = readLightSensor();
-    if (!level) {
-        if (!std::exchange(sensorFailed, true))
-            qDebug("light sensor gives no number");
-        return;
-    }
-    sensorFailed = false;
-    const QSlider *slider = ui->slider_light;
-    // Every page left behind follows the sensor for ever. A level that the backlight has already is
-    // not sent once more by each of them, or a long evening of visits would hold up the device.
-    if (leftBehind && std::clamp(*level, slider->minimum(), slider->maximum()) == backlightLevel())
-        return;
-    if (*level != slider->value())
-        ui->slider_light->setValue(*level);
+    light.followSensor();
 }
 
 void adjustLight::styleSlider(Groove wanted)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/BacklightControl.h"
+
 #include <QTimer>
 #include <QWidget>
 #include <memory>
@@ -26,19 +28,16 @@ signals:
 private slots:
     void check_lightAdjust();
     void on_button_back_clicked();
-    /// Takes @p iSliderValue, 7 ... 257, to the backlight. At the two ends of the slider the level
-    /// moved back to, 10 or 255, goes out first and the end itself after it.
+    /// Takes @p iSliderValue to the backlight, see BacklightControl::setLevel().
     void light_valueChanged(int iSliderValue);
-    /// One poll of the light sensor. What is no whole number changes nothing.
+    /// One poll of the light sensor. Runs in pages left behind as well, whose form is gone.
     void cause_lightUpdate();
 
 private:
-    enum class Groove { Low, Normal, Full };
-    void styleSlider(Groove wanted);
+    void styleSlider(BacklightLevel::Groove wanted);
 
     std::unique_ptr<Ui::adjustLight> ui;
+    BacklightControl light{this};
     QTimer sensorTimer{this};
-    std::optional<Groove> groove;
-    bool leftBehind = false;
-    bool sensorFailed = false;
+    std::optional<BacklightLevel::Groove> groove;
 };

@@ -15,8 +15,6 @@ class nightModePage : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit nightModePage(QWidget *parent = nullptr);
     ~nightModePage() override;
 

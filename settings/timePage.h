@@ -15,8 +15,6 @@ class timePage : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr bool emptiedWhenLeft = true;
-
     explicit timePage(QWidget *parent = nullptr);
     ~timePage() override;
 

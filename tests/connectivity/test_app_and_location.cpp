@@ -66,6 +66,7 @@ private slots:
         compare("unpair-confirm.png");
         tap(on("button_cancel"));
         QCOMPARE(left.count(), 1);
+        app->jump_disconnectApp_page();
         tap(on("button_confirm"));
         QVERIFY(on("page_connectResult"));
     }

@@ -1,3 +1,4 @@
+#include "pages/EmptyPage.h"
 #include "settings/Backlight.h"
 #include "settings/adjustLight.h"
 #include "tests/support/Environment.h"
@@ -70,17 +71,28 @@ private slots:
         QCOMPARE(recorded(), "255\n257\n");
     }
 
-    void pagesLeftBehindRepeatNothing()
+    void pageLeftBehindFollowsTheSensorAndRepeatsNothing()
     {
         adjustLight former;
         QMetaObject::invokeMethod(&former, "on_button_back_clicked");
+        emptyPage(&former);
+        QTRY_VERIFY(former.findChildren<QWidget *>().isEmpty());
         Environment::writeDeviceFile(sensor, "300");
         poll(page.get());
         poll(&former);
         QCOMPARE(recorded(), "255\n257\n");
         Environment::writeDeviceFile(sensor, "50");
         poll(&former);
-        QCOMPARE(recorded(), "255\n257\n50\n");
+        Environment::writeDeviceFile(sensor, "0");
+        poll(&former);
+        QCOMPARE(recorded(), "255\n257\n50\n10\n7\n");
+        Environment::writeDeviceFile(sensor, "60");
+        poll(page.get());
+        poll(&former);
+        // What it has not sent again it has taken in all the same: a level set by hand stays.
+        setBacklight(200);
+        poll(&former);
+        QCOMPARE(recorded(), "255\n257\n50\n10\n7\n60\n200\n");
     }
 
     void failingToolIsOneLineAndAHangingOneLeftAlone()

@@ -12,17 +12,47 @@
 #include <QStackedWidget>
 
 namespace {
-/// Tile, holder, class of the page, the slot that opens it.
-constexpr const char *pages[][4] = {
-    {"option_setWifi", "page_setWifi", "SetWifiPage", "jump_setWifi_page"},
-    {"option_adjustLight", "page_adjustLight", "adjustLight", "jump_adjustLight_page"},
-    {"option_frame_nightPattern", "page_nightMode", "nightModePage", "jump_setNightPatternSlt"},
-    {"option_connectApp", "page_connectApp", "connectApp", "jump_connectApp_page"},
-    {"option_setLocation", "page_setLocation", "setLocation", "jump_setLocation_page"},
-    {"option_updateFirmware", "page_updateFirmware", "updateFirmware", "jump_updateFirmware_page"},
-    {"option_setTime", "page_setTime", "SetTimePage", "jump_setTime_page"},
-    {"option_frame_language", "page_setLanguage", "setLanguagePage", "jump_setLanguage_page"},
-    {"option_resetFactory", "page_resetFactory", "Factory_Reset", "jump_resetFactory_page"},
+struct Way
+{
+    const char *tile, *holder, *pageClass, *slot;
+    /// Taps that lead behind the page, and back to it or out of it as well.
+    std::vector<const char *> behind;
+};
+const Way ways[] = {
+    {"option_setWifi", "page_setWifi", "SetWifiPage", "jump_setWifi_page", {}},
+    {"option_adjustLight", "page_adjustLight", "adjustLight", "jump_adjustLight_page", {}},
+    {"option_frame_nightPattern",
+     "page_nightMode",
+     "nightModePage",
+     "jump_setNightPatternSlt",
+     {"button_startTime", "button_back", "button_finishTime", "pushButton_finish", "button_back"}},
+    {"option_connectApp",
+     "page_connectApp",
+     "connectApp",
+     "jump_connectApp_page",
+     {"button_connectApp", "button_back"}},
+    {"option_setLocation",
+     "page_setLocation",
+     "setLocation",
+     "jump_setLocation_page",
+     {"button_search", "button_enter", "button_back", "button_enter", "button_back",
+      "button_back"}},
+    {"option_updateFirmware",
+     "page_updateFirmware",
+     "updateFirmware",
+     "jump_updateFirmware_page",
+     {"button_checkUpdate", "button_update", "button_back"}},
+    {"option_setTime",
+     "page_setTime",
+     "SetTimePage",
+     "jump_setTime_page",
+     {"button_dateTime", "button_back", "button_timeZone", "button_back"}},
+    {"option_frame_language", "page_setLanguage", "setLanguagePage", "jump_setLanguage_page", {}},
+    {"option_resetFactory",
+     "page_resetFactory",
+     "Factory_Reset",
+     "jump_resetFactory_page",
+     {"button_confirm", "button_cancel"}},
 };
 } // namespace
 
@@ -40,24 +70,34 @@ private slots:
         scrollBar = page->findChild<QScrollArea *>("scrollArea")->verticalScrollBar();
     }
 
-    void tileOpensAFreshPageAndComesBack()
+    void everyVisitIsFreshAndLeavesAnEmptyFrame()
     {
+        qputenv("ZELL_FIRMWARE_URL", "http://127.0.0.1:1/refused.pkg");
         auto *stack = page->findChild<QStackedWidget *>("stackedWidget");
-        for (const auto &[tileName, holder, pageClass, slot] : pages) {
-            auto *tile = page->findChild<QWidget *>(tileName);
-            for (int visit = 1; visit <= 2; ++visit) {
+        for (const Way &way : ways) {
+            for (int visit = 1; visit <= 3; ++visit) {
+                auto *tile = page->findChild<QWidget *>(way.tile);
                 scrollBar->setValue(tile->y());
                 tap(tile);
-                QCOMPARE(stack->currentWidget()->objectName(), holder);
+                QCOMPARE(stack->currentWidget()->objectName(), way.holder);
                 QVERIFY(!page->is_allowed_slide());
                 const auto visits = stack->currentWidget()->findChildren<QWidget *>(
                     QString(), Qt::FindDirectChildrenOnly);
-                QCOMPARE(visits.size(), visit);
-                QWidget *top = page->childAt(400, 300);
-                QVERIFY(top == visits.last() || visits.last()->isAncestorOf(top));
-                QCOMPARE(visits.last()->metaObject()->className(), pageClass);
-                tap(visits.last()->findChild<QWidget *>("button_back"));
+                QWidget *newest = visits.last();
+                QVERIFY(newest->isAncestorOf(page->childAt(400, 300)));
+                QCOMPARE(newest->metaObject()->className(), way.pageClass);
+                for (int round = 1; round <= 3 && newest->isVisible(); ++round) {
+                    for (const char *name : way.behind) {
+                        QTRY_VERIFY2(visibleChild(newest, name), name);
+                        tap(visibleChild(newest, name));
+                    }
+                }
+                if (newest->isVisible())
+                    tap(visibleChild(newest, "button_back"));
                 QVERIFY(page->is_allowed_slide());
+                QTRY_VERIFY(newest->findChildren<QWidget *>().isEmpty());
+                const int frames = int(page->findChildren<QWidget *>(way.pageClass).size());
+                QCOMPARE(frames, visit);
             }
         }
     }
@@ -76,10 +116,10 @@ private slots:
     void openPagesPaintNothingByThemselves()
     {
         std::vector<std::unique_ptr<OptionPage>> menus;
-        for (const auto &[tile, holder, pageClass, slot] : pages) {
+        for (const Way &way : ways) {
             menus.push_back(std::make_unique<OptionPage>());
             menus.back()->show();
-            QMetaObject::invokeMethod(menus.back().get(), slot);
+            QMetaObject::invokeMethod(menus.back().get(), way.slot);
         }
         sinceLastPaint.start();
         qApp->installEventFilter(this);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+
+/// The levels of the backlight as the brightness page offers them. Pure.
+namespace BacklightLevel {
+
+constexpr int lowest = 7;
+constexpr int highest = 257;
+constexpr int atOpening = 132;
+
+/// How the groove of the slider is drawn; only its pictures differ.
+enum class Groove { Low, Normal, Full };
+
+/// The level of the slider's range nearest to @p level.
+int bounded(int level);
+
+/// Where the slider goes back to from @p level at one of its ends; nothing for all other levels.
+std::optional<int> backFromEnd(int level);
+
+/// The groove from @p level on. The few levels above the lower end leave it as it is.
+std::optional<Groove> grooveFrom(int level);
+
+} // namespace BacklightLevel
