@@ -20,7 +20,8 @@ constexpr std::chrono::seconds tick{1};
 }
 
 MainWindow::MainWindow(QWidget *parent)
-    : QMainWindow(parent)
+    // Flags that change later have the style sheet applied to every widget once more.
+    : QMainWindow(parent, Qt::Window | Qt::FramelessWindowHint)
     , ui(std::make_unique<Ui::MainWindow>())
 {
     ui->setupUi(this);
