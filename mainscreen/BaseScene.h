@@ -30,13 +30,6 @@ signals:
     /// The tile numbered @p iPage (from 1) was tapped.
     void signal_jumpPage(int iPage);
 
-public slots:
-    /// Readings for the tiles. INVALID_READING shows dashes and hides the tile's level and unit,
-    /// which stay hidden.
-    void update_pmData(int value);
-    void update_tempData(int value);
-    void update_humData(int value);
-
 protected:
     void mousePressEvent(QMouseEvent *event) override;
 
@@ -48,8 +41,16 @@ private slots:
     void on_frame_temperature_clicked();
     void jump_scenePage();
     void anHistory_finished();
+    /// Readings for the tiles. INVALID_READING shows dashes and hides the tile's level and unit,
+    /// which stay hidden.
+    void update_pmData(int value);
+    void update_tempData(int value);
+    void update_humData(int value);
 
 private:
+    /// Connects the readings.
+    friend class MainView;
+
     void connect_init();
     void animation_init();
     void showTiles(bool pm, bool temperature, bool humidity);

@@ -32,8 +32,6 @@ std::optional<DigitRow> pmRow(int value)
         return DigitRow{.width = dashesWidth};
     if (value >= firstTooLargePm)
         return std::nullopt;
-    if (value < 0)
-        return DigitRow{.hundreds = glyphDash, .width = threePlacesWidth};
 
     DigitRow row{.hundreds = digit(value % 1000 / 100),
                  .tens = digit(value % 100 / 10),
@@ -62,8 +60,6 @@ DigitRow humidityRow(int value)
 {
     if (value == INVALID_READING)
         return {.width = humidityWidth, .hidesUnit = true};
-    if (value < 0)
-        return {.width = humidityWidth};
     return {.tens = digit(value / 10), .units = digit(value % 10), .width = humidityWidth};
 }
 

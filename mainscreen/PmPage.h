@@ -18,12 +18,17 @@ public:
 public slots:
     /// The measurement has arrived: ends the animation and shows @p iValue.
     void update_pmData(int iValue);
+
+protected slots:
     /// Shows @p iValue; INVALID_READING gives dashes, 10000 and more change nothing.
     void update_currentData(int iValue);
     /// Starts the animation if it is not running, and a measurement in any case.
     void ShowAnimation();
 
 private:
+    /// Connects the readings.
+    friend class MainView;
+
     void setScanning(bool scanning);
 
     bool busy = false;

@@ -10,7 +10,11 @@ class TemperaturePage : public BaseValue
 public:
     explicit TemperaturePage(QWidget *parent = nullptr);
 
-public slots:
+protected slots:
     /// Shows @p iValue; INVALID_READING gives dashes and takes the unit away for good.
     void update_currentData(int iValue);
+
+private:
+    /// Connects the readings.
+    friend class MainView;
 };

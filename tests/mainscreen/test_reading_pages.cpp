@@ -28,6 +28,11 @@ bool shows(const QLabel *label, Glyph glyph)
 {
     return label->pixmap(Qt::ReturnByValue).toImage() == QPixmap(glyphPicture(glyph)).toImage();
 }
+
+void update(QWidget &page, int value)
+{
+    QVERIFY(QMetaObject::invokeMethod(&page, "update_currentData", Q_ARG(int, value)));
+}
 } // namespace
 
 class TestReadingPages : public QObject
@@ -35,63 +40,54 @@ class TestReadingPages : public QObject
     Q_OBJECT
 
 private slots:
-    void rows_data()
-    {
-        QTest::addColumn<QStringList>("expected"); // PM2.5, temperature, humidity
-        QTest::newRow("5") << QStringList{"005 329", "05 298", "05 273"};
-        QTest::newRow("100") << QStringList{"100 329", "_0 298", "_0 273"};
-        QTest::newRow("999") << QStringList{"999 329", "_9 298", "_9 273"};
-        QTest::newRow("1000") << QStringList{"1000 433", "_0 298", "_0 273"};
-        QTest::newRow("9998") << QStringList{"9998 433", "_8 298", "_8 273"};
-        QTest::newRow("9999") << QStringList{"-- 225", "-- 298", "-- 273"};
-        QTest::newRow("10000") << QStringList{"unchanged", "_0 298", "_0 273"};
-        QTest::newRow("-5") << QStringList{"--- 329", "-05 402", "-- 273"};
-        QTest::newRow("-2147483648") << QStringList{"--- 329", "-_8 402", "-- 273"};
-    }
-
     void rows()
     {
-        const int value = QByteArray(QTest::currentDataTag()).toInt();
-        const QStringList row{written(pmRow(value)), written(temperatureRow(value)),
-                              written(humidityRow(value))};
-        QTEST(row, "expected");
+        const std::tuple<int, const char *, const char *, const char *> rows[] = {
+            {5, "005 329", "05 298", "05 273"},       {100, "100 329", "_0 298", "_0 273"},
+            {999, "999 329", "_9 298", "_9 273"},     {1000, "1000 433", "_0 298", "_0 273"},
+            {9998, "9998 433", "_8 298", "_8 273"},   {9999, "-- 225", "-- 298", "-- 273"},
+            {10000, "unchanged", "_0 298", "_0 273"}, {-5, "00_ 329", "-05 402", "0_ 273"},
+            {-230, "__0 329", "-_0 402", "_0 273"},   {INT_MIN, "___ 329", "-_8 402", "__ 273"}};
+        for (const auto &[value, pm, temperature, humidity] : rows) {
+            QCOMPARE(written(pmRow(value)), pm);
+            QCOMPARE(written(temperatureRow(value)), temperature);
+            QCOMPARE(written(humidityRow(value)), humidity);
+        }
     }
 
     void pagesDrawTheRowCentred()
     {
         TemperaturePage page;
         const auto *frame = page.findChild<QWidget *>("frame_value");
-        const auto stands = [&](const char *first, int frameX, int firstX, int unitsX) {
-            return frame->x() == frameX && frameX + place(page, first)->x() == firstX &&
-                   frameX + place(page, "label_units")->x() == unitsX;
-        };
-        QVERIFY(stands("label_tens", 182, 182, 286));
-        QVERIFY(shows(place(page, "label_units"), glyphDash));
-        page.update_currentData(-23);
-        QVERIFY(stands("label_minus", 130, 130, 338));
-        QVERIFY(shows(place(page, "label_units"), 3));
-        page.update_currentData(9999);
-        QVERIFY(stands("label_tens", 182, 218, 322));
+        // No value before the first reading; what 9999 takes away does not come back.
+        const std::tuple<int, const char *, int, int, Glyph, bool> steps[] = {
+            {0, "label_tens", 182, 182, glyphDash, true},
+            {-23, "label_minus", 130, 130, 3, true},
+            {9999, "label_tens", 182, 218, glyphDash, false},
+            {104, "label_units", 182, 322, 4, false}};
+        for (const auto &[value, first, frameX, firstX, units, unit] : steps) {
+            if (value != 0)
+                update(page, value);
+            QCOMPARE(frame->x(), frameX);
+            QCOMPARE(frameX + place(page, first)->x(), firstX);
+            QVERIFY2(shows(place(page, "label_units"), units), first);
+            QCOMPARE(!place(page, "label_symbol")->isHidden(), unit);
+        }
+        QVERIFY(shows(place(page, "label_tens"), glyphBlank));
     }
 
-    void missingReadingTakesTheUnitForGood()
+    void humidityStartsAtFortyAndLogsAMissingReading()
     {
-        TemperaturePage temperature;
-        HumidityPage humidity;
-        QVERIFY(!place(temperature, "label_symbol")->isHidden());
-        QCOMPARE(place(humidity, "label_symbol")->width(), 65);
-        QVERIFY(shows(place(humidity, "label_tens"), 4));
+        HumidityPage page;
+        QVERIFY(shows(place(page, "label_tens"), 4) && shows(place(page, "label_units"), 0));
+        QCOMPARE(place(page, "label_symbol")->width(), 65);
         MessageLog log;
-        for (const int value : {9999, 21}) {
-            temperature.update_currentData(value);
-            humidity.update_currentData(value);
-        }
-        QCOMPARE(log.lines(), QStringList({"Error Temp number:9999", "Error Hum number:9999"}));
-        QVERIFY(place(temperature, "label_symbol")->isHidden());
-        QVERIFY(place(humidity, "label_symbol")->isHidden());
-        temperature.update_currentData(104);
-        QCOMPARE(log.lines().size(), 3);
-        QVERIFY(shows(place(temperature, "label_tens"), glyphBlank));
+        update(page, 9999);
+        update(page, 21);
+        QCOMPARE(log.lines(), QStringList("Error Hum number:9999"));
+        QVERIFY(place(page, "label_symbol")->isHidden());
+        update(page, -21);
+        QCOMPARE(log.lines().last(), "\"HumidityPage\" has no picture for a digit of its reading");
     }
 };
 
