@@ -30,6 +30,9 @@ locationResult::locationResult(QWidget *parent)
     ui->listWidget->hide();
     ui->label_noResult->hide();
     ui->info_noResult->hide();
+    ui->scrollBar_result->setAttribute(Qt::WA_TransparentForMouseEvents);
+    mirror(ui->listWidget->verticalScrollBar(), ui->scrollBar_result);
+    new TouchList(ui->listWidget);
     show_locate_result();
     connect(ui->button_deleteLocation, &QPushButton::clicked, this,
             &locationResult::delete_searchLocation);
@@ -40,6 +43,9 @@ locationResult::~locationResult() = default;
 void locationResult::show_locate_result()
 {
     ui->listWidget->show();
+    ui->scrollBar_result->show();
+    ui->label_noResult->hide();
+    ui->info_noResult->hide();
     QFont font = ui->listWidget->font();
     font.setPixelSize(textPixels);
     ui->listWidget->setFont(font);
@@ -47,9 +53,6 @@ void locationResult::show_locate_result()
                               tr("Beigem,Vlaams Brabant,BE"), tr("北格，山西，中国"),
                               tr("北渡，上海，中国"), tr("北格1，山西，中国"),
                               tr("北渡1，上海，中国")});
-    ui->scrollBar_result->setAttribute(Qt::WA_TransparentForMouseEvents);
-    mirror(ui->listWidget->verticalScrollBar(), ui->scrollBar_result);
-    new TouchList(ui->listWidget);
 }
 
 void locationResult::on_button_back_clicked()
