@@ -7,8 +7,7 @@
 /// What a PackageServer does once it has sent the fixed bytes of its answer.
 enum class Then { Close, Hold, SendForEver, Trickle };
 
-/// A download server on loopback that answers every request with the same bytes, good or bad. Only
-/// a path that starts with "/moved" is sent on to the same name under "/".
+/// A download server on loopback that answers every request with the same bytes, good or bad.
 class PackageServer : public QTcpServer
 {
 public:
@@ -35,13 +34,8 @@ public:
 private:
     void serve(QTcpSocket *peer)
     {
-        const QByteArray path = peer->readAll().split(' ').at(1);
+        peer->readAll();
         ++requests;
-        if (path.startsWith("/moved")) {
-            peer->write("HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " + path.mid(6) +
-                        "\r\n\r\n");
-            return;
-        }
         if (after == Then::SendForEver) {
             connect(peer, &QTcpSocket::bytesWritten, peer, [this, peer](qint64 count) {
                 sent += count;

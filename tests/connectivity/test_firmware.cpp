@@ -1,10 +1,8 @@
 #include "connectivity/FirmwareDownload.h"
 #include "connectivity/updateFirmware.h"
-#include "pages/Ground.h"
 #include "tests/connectivity/PackageServer.h"
 #include "tests/support/Environment.h"
 #include "tests/support/MessageLog.h"
-#include "tests/support/PictureCompare.h"
 #include "tests/support/Touch.h"
 
 #include <QLabel>
@@ -13,17 +11,9 @@
 #include <QStackedWidget>
 
 using namespace std::chrono_literals;
-Q_DECLARE_METATYPE(Then)
 
 namespace {
 constexpr auto package = "/zell/ZellQt-1.1.pkg";
-
-// The sanitizer keeps freed memory for a while.
-#ifdef __SANITIZE_ADDRESS__
-constexpr bool sanitized = true;
-#else
-constexpr bool sanitized = false;
-#endif
 
 QByteArray ok(const QByteArray &body, qint64 length)
 {
@@ -34,8 +24,12 @@ QByteArray ok(const QByteArray &body, qint64 length)
 
 qint64 residentBytes()
 {
+#ifndef __SANITIZE_ADDRESS__ // The sanitizer keeps freed memory for a while.
     QFile file("/proc/self/statm");
-    return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').at(1).toLongLong() * 4096 : 0;
+    if (file.open(QIODevice::ReadOnly))
+        return file.readAll().split(' ').at(1).toLongLong() * 4096;
+#endif
+    return 0;
 }
 } // namespace
 
@@ -48,20 +42,16 @@ private slots:
     {
         page = new updateFirmware;
         page->setLimits({300ms, 60s, qint64(96) * 1024 * 1024});
-        fillGround(page);
         page->show();
     }
     void cleanup() { delete page; }
 
-    void addressAndProgressArePure()
+    void addressAndPercent()
     {
         qunsetenv("ZELL_FIRMWARE_URL");
         QCOMPARE(firmwareAddress(), QUrl("http://firmware.example.com/zell/ZellQt-1.1.pkg"));
-        qputenv("ZELL_FIRMWARE_URL", "http://127.0.0.1:8/a.pkg");
-        QCOMPARE(firmwareAddress(), QUrl("http://127.0.0.1:8/a.pkg"));
         QCOMPARE(downloadPercent(2, 3), 66);
         QCOMPARE(downloadPercent(qint64(1) << 40, qint64(1) << 41), 50);
-        QCOMPARE(downloadPercent(5, -1), -500);
         QCOMPARE(downloadPercent(5, 0), 0);
     }
 
@@ -69,47 +59,41 @@ private slots:
     {
         QTest::addColumn<QByteArray>("answer");
         QTest::addColumn<Then>("then");
-        QTest::addColumn<QByteArray>("path");
         QTest::addColumn<bool>("installs");
-        const QByteArray good(package);
         const QByteArray loop =
             "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: /again\r\n\r\n";
-        QTest::newRow("whole package") << ok("abcdef", 6) << Then::Hold << good << true;
-        QTest::newRow("no length, closes") << ok("abcdef", -1) << Then::Close << good << true;
-        QTest::newRow("moved") << ok("abcdef", 6) << Then::Hold << "/moved" + good << true;
-        QTest::newRow("empty package") << ok("", 0) << Then::Hold << good << true;
-        QTest::newRow("moves in circles") << loop << Then::Hold << good << false;
-        QTest::newRow("not found") << QByteArray("HTTP/1.1 404 No\r\nContent-Length: 2\r\n\r\nno")
-                                   << Then::Hold << good << false;
-        QTest::newRow("closes at once") << QByteArray() << Then::Close << good << false;
-        QTest::newRow("closes early") << ok("abc", 6) << Then::Close << good << false;
-        QTest::newRow("no HTTP") << QByteArray("\0\xff\n\n", 4) << Then::Close << good << false;
-        QTest::newRow("silent") << QByteArray() << Then::Hold << good << false;
-        QTest::newRow("falls silent") << ok("abc", 6) << Then::Hold << good << false;
-        QTest::newRow("a byte now and then") << ok("a", -1) << Then::Trickle << good << false;
-        QTest::newRow("endless") << ok("a", -1) << Then::SendForEver << good << false;
-        QTest::newRow("far too large")
-            << ok("a", qint64(1) << 40) << Then::SendForEver << good << false;
+        const QByteArray missing = "HTTP/1.1 404 No\r\nContent-Length: 2\r\n\r\nno";
+        QTest::newRow("whole package") << ok("abcdef", 6) << Then::Hold << true;
+        QTest::newRow("no length, closes") << ok("abcdef", -1) << Then::Close << true;
+        QTest::newRow("empty package") << ok("", 0) << Then::Hold << true;
+        QTest::newRow("moves in circles") << loop << Then::Hold << false;
+        QTest::newRow("not found") << missing << Then::Hold << false;
+        QTest::newRow("closes early") << ok("abc", 6) << Then::Close << false;
+        QTest::newRow("no HTTP") << QByteArray("\0\xff\n\n", 4) << Then::Close << false;
+        QTest::newRow("silent") << QByteArray() << Then::Hold << false;
+        QTest::newRow("falls silent") << ok("abc", 6) << Then::Hold << false;
+        QTest::newRow("head without end")
+            << QByteArray("HTTP/1.1 200 OK\r\nX: ") << Then::SendForEver << false;
+        QTest::newRow("a byte now and then") << ok("a", -1) << Then::Trickle << false;
+        QTest::newRow("body without end") << ok("a", -1) << Then::SendForEver << false;
     }
 
     void everyServerEndsOnAPageWithAWayBack()
     {
         QFETCH(QByteArray, answer);
         QFETCH(Then, then);
-        QFETCH(QByteArray, path);
         QFETCH(bool, installs);
         PackageServer server(answer, then);
         QSignalSpy left(page, &updateFirmware::signal_backDefaultPage);
         if (then == Then::Trickle)
             page->setLimits({300ms, 2s, 1 << 20});
         const qint64 before = residentBytes();
-        startDownload(server.address(path));
+        startDownload(server.address(package));
         QVERIFY(!shown("button_back"));
         QVERIFY(waitFor(installs ? "page_installFirmware" : "page_retryFirmware"));
         // A redirect is followed a few hops, not for ever.
         QVERIFY(server.requests < 20);
-        QVERIFY(sanitized || residentBytes() - before < 24e6);
-        compare(installs ? "firmware-install.png" : "firmware-retry.png");
+        QVERIFY(residentBytes() - before < 24e6);
         tap(shown("button_back"));
         // The retry page runs its slots twice per click.
         QCOMPARE(left.count(), installs ? 1 : 2);
@@ -122,11 +106,7 @@ private slots:
         startDownload("http://127.0.0.1:1/refused.pkg");
         QVERIFY(waitFor("page_retryFirmware"));
         tap(shown("button_retry"));
-        QCOMPARE(current(), "page_firmware");
-        QVERIFY(shown("progressBar_update") && !shown("button_update"));
-        QSignalSpy left(page, &updateFirmware::signal_backDefaultPage);
-        tap(shown("button_back"));
-        QCOMPARE(left.count(), 1);
+        QVERIFY(shown("page_firmware") && shown("button_back") && !shown("button_update"));
     }
 
     void progressIsShownAndLogged()
@@ -134,62 +114,46 @@ private slots:
         MessageLog log;
         PackageServer server(ok(QByteArray("ab\0cdefg", 8), 16), Then::Hold);
         startDownload(server.address(package));
-        auto *bar = page->findChild<QProgressBar *>("progressBar_update");
         auto *text = page->findChild<QLabel *>("label_process");
         QTRY_COMPARE(text->text(), "正在下载 ... 50%\n");
-        compare("firmware-downloading.png");
         page->on_downloadProgress(qint64(1) << 33, -1);
         QCOMPARE(text->text(), "正在下载 ... -858993459200%\n");
-        QCOMPARE(bar->value(), 50);
+        QCOMPARE(page->findChild<QProgressBar *>("progressBar_update")->value(), 50);
         QVERIFY(waitFor("page_retryFirmware"));
-        for (const char *line :
-             {"Need to update version! ", "Update new version! ", "Download new version...",
-              "on_downloadProgress...", "iBytesReceive is 8", "iDownloadProcess is 50",
-              "finish_reply...", "statusCode is  200", "result is  \"ab\"", "Error comes..."})
+        for (const char *line : {"Need to update version! ", "Update new version! ",
+                                 "iBytesReceive is 8", "iDownloadProcess is 50",
+                                 "statusCode is  200", "result is  \"ab\"", "Error comes..."})
             QVERIFY2(log.contains(line), line);
     }
 
-    void reportOfNoBytesFailsUntilTheDownloadSucceeds()
-    {
-        PackageServer server(ok("abcdef", 6), Then::Hold);
-        startDownload(server.address(package));
-        page->on_downloadProgress(0, 6);
-        QCOMPARE(current(), "page_retryFirmware");
-        QVERIFY(waitFor("page_installFirmware"));
-    }
-
-    void twoChecksStartTwoDownloads()
+    void secondCheckAndReportOfNoBytes()
     {
         PackageServer server(ok("abcdef", 6), Then::Hold);
         page->check_versionUpdate();
         startDownload(server.address(package));
+        page->on_downloadProgress(0, 6);
+        QVERIFY(shown("page_retryFirmware"));
         QTRY_COMPARE(page->findChildren<QWidget *>("installFirmware").size(), 2);
         QCOMPARE(server.requests, 2);
     }
 
     void pageMayGoWhileItsDownloadRuns()
     {
-        for (const bool leftByTouch : {true, false}) {
-            PackageServer server(ok("a", -1), Then::SendForEver);
-            page->setLimits({});
-            startDownload(server.address(package));
-            QTRY_VERIFY(server.sent > 1e6);
-            page->on_downloadProgress(0, -1);
-            if (leftByTouch)
-                tap(shown("button_back"));
-            else
-                delete page;
-            QTRY_COMPARE(server.socket->state(), QAbstractSocket::UnconnectedState);
-            if (leftByTouch)
-                cleanup();
-            init();
-        }
+        PackageServer server(ok("a", -1), Then::SendForEver);
+        startDownload(server.address(package));
+        QTRY_VERIFY(server.sent > 1e6);
+        page->on_downloadProgress(0, -1);
+        tap(shown("button_back"));
+        QTRY_COMPARE(server.socket->state(), QAbstractSocket::UnconnectedState);
+        page->download_newVersion();
+        server.sent = 0;
+        QTRY_VERIFY(server.sent > 1e6);
+        cleanup();
+        init();
     }
 
 private:
     QWidget *shown(const char *name) { return visibleChild(page, name); }
-    QStackedWidget *stack() { return page->findChild<QStackedWidget *>("stackedWidget"); }
-    QString current() { return stack()->currentWidget()->objectName(); }
     void startDownload(const QByteArray &address)
     {
         qputenv("ZELL_FIRMWARE_URL", address);
@@ -197,17 +161,12 @@ private:
         tap(shown("button_update"));
     }
     // In an event loop of its own: the polling of QTRY_ would slow a download a hundredfold.
-    bool waitFor(const QString &end)
+    bool waitFor(const char *end)
     {
-        QSignalSpy turned(stack(), &QStackedWidget::currentChanged);
-        while (current() != end && turned.wait(20000)) {
+        QSignalSpy turned(page->findChild<QStackedWidget *>(), &QStackedWidget::currentChanged);
+        while (!shown(end) && turned.wait(20000)) {
         }
-        return current() == end;
-    }
-    void compare(const char *name)
-    {
-        const QString problem = pictureDifference(page->grab().toImage(), ZELL_REFERENCE_DIR, name);
-        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+        return shown(end) != nullptr;
     }
 
     updateFirmware *page = nullptr;
