@@ -49,7 +49,10 @@ int validAverage(int value)
 TempHumReading parseTempHum(const QByteArray &text)
 {
     const QString characters = QString::fromUtf8(text);
-    return {readField(characters, temperatureField, validTemperature),
+    // A text that ends within the temperature has lost digits: "234" of 23456 would be 0 degrees.
+    // The humidity comes last, and below 10 per cent it is short by itself.
+    const bool isCut = characters.size() < temperatureField + fieldLength;
+    return {isCut ? INVALID_READING : readField(characters, temperatureField, validTemperature),
             readField(characters, humidityField, validHumidity)};
 }
 

@@ -26,8 +26,8 @@ int validHumidity(int humidity);
 int validAverage(int value);
 
 /// Reads both fields of the sensor's @p text (UTF-8): thousandths of °C in characters 7 to 11 and
-/// thousandths of a per cent in characters 25 to 29. A field that is missing or no number gives
-/// INVALID_READING, the other still counts.
+/// thousandths of a per cent in characters 25 to 29. A field that is missing or no number, and a
+/// temperature cut short, gives INVALID_READING, the other still counts.
 TempHumReading parseTempHum(const QByteArray &text);
 
 /// The content of the sensor file @p path, 4 KiB at the most. Empty where it cannot be read or is

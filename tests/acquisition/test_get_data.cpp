@@ -47,7 +47,9 @@ private slots:
             {"temp = 99999, humidity =  5499", 100, 5},
             {"°C   = 21000, Feuchte% = 40000", 21, 40},
             {"temp = 2x456, humidity = 45678", 9999, 46},
-            {"temp = 23456, humi", 23, 9999}};
+            {"temp = 23456, humi", 23, 9999},
+            {"temp = 23456, humidity = 9876", 23, 10},
+            {"temp = 2345", 9999, 9999}};
         for (const auto &[text, temperature, humidity] : rows) {
             const TempHumReading reading = parseTempHum(text);
             QVERIFY2(reading.temperature == temperature && reading.humidity == humidity, text);
