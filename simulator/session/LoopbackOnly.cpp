@@ -7,8 +7,7 @@
 #include <netinet/in.h>
 #include <sys/socket.h>
 
-namespace
-{
+namespace {
 using BindFunction = int (*)(int, const sockaddr *, socklen_t);
 
 BindFunction libraryBind()
@@ -24,7 +23,8 @@ extern "C" int bind(int socket, const sockaddr *address, socklen_t length) noexc
         sockaddr_in6 ours;
         std::memcpy(&ours, address, sizeof ours);
         if (IN6_IS_ADDR_UNSPECIFIED(&ours.sin6_addr)) {
-            // The IPv4 loopback address in its IPv6 form: a dual-stack socket then answers 127.0.0.1.
+            // The IPv4 loopback address in its IPv6 form: a dual-stack socket then answers
+            // 127.0.0.1.
             inet_pton(AF_INET6, "::ffff:127.0.0.1", &ours.sin6_addr);
             return next(socket, reinterpret_cast<const sockaddr *>(&ours), sizeof ours);
         }

@@ -10,8 +10,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-namespace
-{
+namespace {
 int signalPipe[2];
 
 // Only write() is safe in a signal handler; the event loop does the rest.
