@@ -42,10 +42,10 @@ TerminationSignals::TerminationSignals(QObject *parent)
 
 void TerminationSignals::readPipe()
 {
-    std::array<char, 16> bytes{};
-    while (::read(signalPipe[0], bytes.data(), bytes.size()) > 0) {
-    }
-    emit received();
+    // One by one: a second signal means something else than the first, however soon it follows.
+    char byte = 0;
+    while (::read(signalPipe[0], &byte, 1) > 0)
+        emit received();
 }
 
 } // namespace simulator
