@@ -1,5 +1,7 @@
 #include "simulator/WifiScan.h"
 
+#include <algorithm>
+
 namespace simulator {
 namespace {
 constexpr auto wifiInterface = "wlan1";
