@@ -6,30 +6,20 @@
 #include <algorithm>
 #include <utility>
 
-using namespace std::chrono_literals;
-
 namespace simulator {
-namespace {
-constexpr auto framePeriod = 1s;
-// Long enough for the reader to see two bursts, short against the frame period.
-constexpr auto burstPause = 200ms;
-// Within the ten seconds of a sampling window, so that the return can be seen as well.
-constexpr auto unpluggedFor = 3s;
-} // namespace
 
-ParticleSensor::ParticleSensor(const Scenario &scenario, const QString &serialDevice,
-                               const QString &supplySwitch, quint32 seed,
+ParticleSensor::ParticleSensor(const Scenario &scenario, Settings sensorSettings,
                                std::function<double()> particlesNow, QObject *parent)
     : QObject(parent)
-    , line(serialDevice)
-    , switchPath(supplySwitch)
+    , settings(std::move(sensorSettings))
+    , line(settings.serialDevice)
     , faults(scenario.frames)
     , particles(std::move(particlesNow))
-    , random(seed)
+    , random(settings.seed)
     , framesUntilUnplug(scenario.framesUntilUnplug)
 {
     frameTimer.setTimerType(Qt::PreciseTimer);
-    frameTimer.setInterval(framePeriod);
+    frameTimer.setInterval(settings.framePeriod);
     connect(&frameTimer, &QTimer::timeout, this, &ParticleSensor::sendFrame);
     connect(&switchWatcher, &QFileSystemWatcher::fileChanged, this,
             &ParticleSensor::readSupplySwitch);
@@ -43,8 +33,8 @@ bool ParticleSensor::start()
 
 void ParticleSensor::keepSupplySwitch()
 {
-    if (!QFile::exists(switchPath))
-        replaceFile(switchPath, "0");
+    if (!QFile::exists(settings.supplySwitch))
+        replaceFile(settings.supplySwitch, "0");
     readSupplySwitch();
 }
 
@@ -52,9 +42,9 @@ void ParticleSensor::readSupplySwitch()
 {
     // A file that was replaced is no longer watched.
     if (switchWatcher.files().isEmpty())
-        switchWatcher.addPath(switchPath);
+        switchWatcher.addPath(settings.supplySwitch);
 
-    QFile file(switchPath);
+    QFile file(settings.supplySwitch);
     const bool on = file.open(QIODevice::ReadOnly) && file.read(1) == "1";
     if (on && !frameTimer.isActive())
         frameTimer.start();
@@ -69,14 +59,14 @@ void ParticleSensor::sendFrame()
     const FrameFault fault = faults.at(framesSent++ % faults.size());
     sendBursts(sensorBursts(fault, quint32(std::max(0, qRound(particles()))), random));
     if (++framesSincePlugged == framesUntilUnplug)
-        QTimer::singleShot(burstPause, this, &ParticleSensor::pullOut);
+        QTimer::singleShot(settings.burstPause, this, &ParticleSensor::pullOut);
 }
 
 void ParticleSensor::sendBursts(QList<QByteArray> bursts)
 {
     line.send(bursts.takeFirst());
     if (!bursts.isEmpty())
-        QTimer::singleShot(burstPause, this, [this, bursts] {
+        QTimer::singleShot(settings.burstPause, this, [this, bursts] {
             if (frameTimer.isActive())
                 sendBursts(bursts);
         });
@@ -86,7 +76,7 @@ void ParticleSensor::pullOut()
 {
     line.pullOut();
     framesSincePlugged = 0;
-    QTimer::singleShot(unpluggedFor, this, [this] { line.plugIn(); });
+    QTimer::singleShot(settings.unpluggedFor, this, [this] { line.plugIn(); });
 }
 
 } // namespace simulator

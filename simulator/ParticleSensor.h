@@ -6,6 +6,7 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QTimer>
+#include <chrono>
 #include <functional>
 
 namespace simulator {
@@ -16,10 +17,21 @@ class ParticleSensor : public QObject
 {
     Q_OBJECT
 public:
+    struct Settings
+    {
+        QString serialDevice; ///< where it appears while it is plugged in
+        QString supplySwitch; ///< path of the file that switches it on
+        quint32 seed = 1;     ///< start of its random numbers
+        std::chrono::milliseconds framePeriod{1000};
+        /// Long enough for the reader to see two bursts, short against the frame period.
+        std::chrono::milliseconds burstPause{200};
+        /// Short against a sampling of ten seconds, so that the return falls into it as well.
+        std::chrono::milliseconds unpluggedFor{3000};
+    };
+
     /// @p particlesNow gives the concentration in µg/m³.
-    ParticleSensor(const Scenario &scenario, const QString &serialDevice,
-                   const QString &supplySwitch, quint32 seed, std::function<double()> particlesNow,
-                   QObject *parent = nullptr);
+    ParticleSensor(const Scenario &scenario, Settings sensorSettings,
+                   std::function<double()> particlesNow, QObject *parent = nullptr);
 
     /// Plugs the sensor in. False where there is no pty to be had.
     bool start();
@@ -33,8 +45,8 @@ private:
     void sendBursts(QList<QByteArray> bursts);
     void pullOut();
 
+    Settings settings;
     SerialLine line;
-    QString switchPath;
     QFileSystemWatcher switchWatcher;
     QTimer frameTimer;
     QList<FrameFault> faults;

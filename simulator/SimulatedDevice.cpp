@@ -26,7 +26,10 @@ SimulatedDevice::SimulatedDevice(const QString &rootPath, Settings deviceSetting
 {
     if (settings.scenario.hasSensors)
         sensor = std::make_unique<ParticleSensor>(
-            settings.scenario, root.serialDevice(), root.supplySwitch(), settings.seed,
+            settings.scenario,
+            ParticleSensor::Settings{.serialDevice = root.serialDevice(),
+                                     .supplySwitch = root.supplySwitch(),
+                                     .seed = settings.seed},
             [this] { return now(settings.scenario.particles); });
     connect(&refreshTimer, &QTimer::timeout, this, &SimulatedDevice::refresh);
 }
