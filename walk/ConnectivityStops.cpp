@@ -33,6 +33,12 @@ std::vector<Stop> wifiStops()
          }},
         {"wifi-password-symbol", tapping({"button_symbol_2"})},
         {"wifi-result-success", calling("passwordKeyboard", "jump_wifiConnectResult_page")},
+        {"wifi-result-fail",
+         [](Walk &walk) {
+             walk.rearrange(
+                 "label_success", {"label_success", "label_infoSuccess", "button_forgetSuccess"},
+                 {"label_fail", "label_infoFail", "button_forgetFail", "button_retryFail"});
+         }},
         {"wifi-none",
          [](Walk &walk) {
              walk.restartAtMenu();
@@ -52,7 +58,12 @@ std::vector<Stop> pairingStops()
              backAndOpen("option_connectApp")(walk);
              calling("connectApp", "jump_disconnectApp_page")(walk);
          }},
-        {"pairing-result", tapping({"button_confirm"})},
+        {"pairing-result-waiting", tapping({"button_confirm"})},
+        {"pairing-result",
+         [](Walk &walk) {
+             walk.rearrange("label_background", {},
+                            {"icon_connectSuccess", "label_connectSuccess"});
+         }},
     };
 }
 

@@ -209,6 +209,16 @@ void Walk::call(const char *className, const char *slot)
         qFatal("cannot call %s of %s", slot, className);
 }
 
+void Walk::rearrange(const QString &neighbour, const QStringList &hidden, const QStringList &shown)
+{
+    const QWidget *page = find(neighbour)->parentWidget();
+    for (const QString &name : hidden)
+        page->findChild<QWidget *>(name)->hide();
+    for (const QString &name : shown)
+        page->findChild<QWidget *>(name)->show();
+    settle();
+}
+
 void Walk::setReadings(int milliDegrees, int milliPercent)
 {
     const QString line = QStringLiteral("temp = %1, humidity = %2\n");

@@ -49,6 +49,9 @@ public:
     /// Calls @p slot of the widget of class @p className that a finger can reach.
     void call(const char *className, const char *slot);
 
+    /// Hides and shows what stands beside @p neighbour, for states that nothing brings about yet.
+    void rearrange(const QString &neighbour, const QStringList &hidden, const QStringList &shown);
+
     /// Gives the sensor new readings, in thousandths, and lets the schedulers read them.
     void setReadings(int milliDegrees, int milliPercent);
     void breakSensor();
