@@ -6,6 +6,8 @@
 #include "walk/LayoutCheck.h"
 #include "walk/Walk.h"
 
+#include <QDir>
+
 /// Walks through the whole product and holds every stop against its reference picture. The stops
 /// follow one another: a single one cannot be run alone.
 class TestWalk : public QObject
@@ -26,7 +28,9 @@ private slots:
         const InLanguage spoken("ZH_SIMPLE.qm");
         QStringList findings;
         Walk walk;
-        for (const Stop &stop : wholeWalk()) {
+        const std::vector<Stop> stops = wholeWalk();
+        QCOMPARE(QDir(ZELL_REFERENCE_DIR).entryList({"*.png"}).size(), qsizetype(stops.size()));
+        for (const Stop &stop : stops) {
             stop.go(walk);
             const QString difference =
                 pictureDifference(walk.picture(), ZELL_REFERENCE_DIR, stop.name + ".png");
