@@ -13,6 +13,7 @@
 #include <QTimeLine>
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 
 namespace {
 using namespace std::chrono_literals;
@@ -160,7 +161,10 @@ void MainView::change_page(int frame)
     position = float(frame) / strip::framesPerPage;
     for (qsizetype i = 0; i < pages.size(); ++i) {
         const QPointF grid = gridPoints.at(i);
-        pages.at(i)->setPos(strip::pageX(int(grid.x()), position, width()), height() * grid.y());
+        const int x = strip::pageX(int(grid.x()), position, width());
+        pages.at(i)->setPos(x, height() * grid.y());
+        // A page beside the view still touches its edge and would be drawn, out of sight.
+        pages.at(i)->setOpacity(std::abs(x) < width() ? 1 : 0);
     }
     background->setPos(strip::backgroundX(position, width(), background->pixmap().width()), 0);
 }
