@@ -5,9 +5,9 @@
 
 /// Compares pictures of widgets with reference pictures kept beside the test.
 ///
-/// Text is rasterised a little differently from one font version to the next, so a pixel also
-/// agrees when it lies between the darkest and the brightest of those around it, in both pictures;
-/// whatever moves, vanishes or changes its colour leaves a patch that does not.
+/// Text is rasterised a little differently from one machine to the next, so a pixel agrees when it
+/// could stand between those around it, in both pictures. What moves by two pixels, vanishes or
+/// changes its colour leaves a patch that does not, the faint grid of the chart included.
 
 /// How many pixels of @p picture and @p reference do not agree; the highest int when the sizes
 /// differ or one of them is no picture.
