@@ -56,17 +56,19 @@ public:
     /// Handles a press or a move like the mouse, without a debug line.
     void touchEvent(QMouseEvent *event);
 
-    // What the page sets to change the presentation, followed by update().
+    // What the page changes, followed by update().
     int mode = twentyFourHours;
     CurrentDay day = 0;
-    float topMargin = 60;
-    float bottomMargin = 64;
     float leftMargin = 35;
-    float rightMargin = 80;
-    float plotBottom = -1; ///< negative: worked out anew
-    float plotTop = -1;    ///< negative: worked out anew
     float pxPerHour = 0;   ///< 0: worked out anew
     float pxPerSecond = 0; ///< 0: worked out anew
+    float plotBottom = -1; ///< negative: worked out anew
+    float plotTop = -1;    ///< negative: worked out anew
+
+    // The rest of the presentation. A change takes effect like one of the page.
+    float topMargin = 60;
+    float bottomMargin = 64;
+    float rightMargin = 80;
     int hours = 24;
     int valueDivisions = 3;
     bool animating = false; ///< whether the time line reveals the axes

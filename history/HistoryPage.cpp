@@ -50,9 +50,10 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
     connect(blackboard, &Blackboard::signalMouseRelease, this, &HistoryPage::onBlackboradRelease);
     midnight.setSingleShot(true);
     midnight.setTimerType(Qt::PreciseTimer);
-    connect(&midnight, &QTimer::timeout, this, &HistoryPage::loadData);
+    connect(&midnight, &QTimer::timeout, this, &HistoryPage::beginDay);
     loadData();
     ui->blackboard_content->layout()->addWidget(blackboard);
+    labelDays();
 }
 
 HistoryPage::~HistoryPage() = default;
@@ -69,8 +70,18 @@ void HistoryPage::loadData()
     const qint64 now = clock();
     std::srand(unsigned(now));
     blackboard->setValueMap(demonstrationSeries(now, quantity, std::rand), quantity);
-    labelDays();
-    awaitMidnight();
+}
+
+void HistoryPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    beginDay();
+}
+
+void HistoryPage::hideEvent(QHideEvent *event)
+{
+    midnight.stop();
+    QWidget::hideEvent(event);
 }
 
 std::array<QRadioButton *, HistoryPage::numberOfDays> HistoryPage::dayButtons() const
@@ -81,16 +92,20 @@ std::array<QRadioButton *, HistoryPage::numberOfDays> HistoryPage::dayButtons() 
 
 void HistoryPage::labelDays()
 {
-    const QDateTime now = QDateTime::fromSecsSinceEpoch(clock());
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(clock(), Qt::OffsetFromUTC,
+                                                        int(LocalTime::secondsAheadOfUtc));
     int daysAgo = 0;
     for (QRadioButton *button : dayButtons())
         button->setText(now.addDays(-daysAgo++).toString(QStringLiteral("dd 日")));
 }
 
-void HistoryPage::awaitMidnight()
+// The chart's days follow the clock by themselves; their names and an idle chart would stay behind.
+void HistoryPage::beginDay()
 {
-    const std::chrono::seconds left(LocalTime::secondsPerDay - LocalTime::secondOfDay(clock()));
-    midnight.start(left);
+    labelDays();
+    blackboard->update();
+    midnight.start(
+        std::chrono::seconds(LocalTime::secondsPerDay - LocalTime::secondOfDay(clock())));
 }
 
 void HistoryPage::present(int mode, float leftMargin)

@@ -18,7 +18,8 @@ class HistoryPage;
 
 /// The page of the history: a chart of today or of seven days, read by touch.
 ///
-/// It shows a generated demonstration series, not the readings of the device. GUI thread.
+/// It shows a generated demonstration series, not the readings of the device. While it is visible
+/// the day buttons follow midnight. GUI thread.
 class HistoryPage : public QWidget
 {
     Q_OBJECT
@@ -32,13 +33,16 @@ public:
     /// shows.
     void showing(int newQuantity);
     void hiding();
-    /// Builds the series up to the present day and hands it to the chart. Runs by itself at
-    /// midnight.
+    /// Builds the series up to the present day and hands it to the chart.
     void loadData();
 
 signals:
     /// The user wants to leave the page.
     void signal_backDefaultPage();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private slots:
     void on_button_back_clicked();
@@ -58,7 +62,7 @@ private:
     static constexpr std::size_t numberOfDays = 7;
     std::array<QRadioButton *, numberOfDays> dayButtons() const;
     void labelDays();
-    void awaitMidnight();
+    void beginDay();
     void present(int mode, float leftMargin);
     void selectDay(int day);
 

@@ -32,6 +32,7 @@ SlideLabel::SlideLabel(QWidget *parent)
     timeLabel->setStyleSheet(QStringLiteral("QLabel {color: #ffffff;padding: 0px;}"));
     unitLabel->setStyleSheet(QStringLiteral("QLabel {color: #4e4e4e}"));
 
+    // The padding of the chip's style sits on top: aligned with the bottom its number is centred.
     // The rows keep their heights and the chip takes the width that the unit leaves: neither jumps
     // with the number shown, and fonts of generous line height do not spread them.
     timeLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);

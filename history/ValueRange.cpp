@@ -19,8 +19,9 @@ qint64 rounded(float value)
 
 void extend(ValueRange &range, float value)
 {
-    range.min = std::min(range.min, std::clamp(value, -largestValue, largestValue));
-    range.max = std::max(range.max, std::clamp(value, -largestValue, largestValue));
+    const float held = std::clamp(value, -largestValue, largestValue);
+    range.min = std::min(range.min, held);
+    range.max = std::max(range.max, held);
 }
 } // namespace
 

@@ -21,8 +21,8 @@ const Readings week{{today - 12 * hour, 90}, {today + hour, 20}, {today + hour *
 class Board : public Blackboard
 {
 public:
-    Board(const qint64 *now, const Readings &readings, int quantity = 2)
-        : Blackboard(nullptr, [now] { return *now; })
+    explicit Board(const Readings &readings = week, int quantity = 2)
+        : Blackboard(nullptr, [this] { return now; })
     {
         resize(854, 400);
         setValueMap(readings, quantity);
@@ -30,9 +30,12 @@ public:
         painted();
     }
 
-    QRegion painted()
+    /// What the finger repaints on its way over @p places.
+    QRegion painted(std::initializer_list<int> places = {})
     {
         repainted = {};
+        for (const int x : places)
+            QTest::mouseMove(this, {x, 100});
         // What is asked for while painting is painted with the next round.
         for (int round = 0; round < 3; ++round)
             QCoreApplication::processEvents();
@@ -40,7 +43,9 @@ public:
     }
 
     QImage onScreen() { return screen()->grabWindow(winId()).toImage(); }
+    bool showsItsLastDot() { return onScreen().pixelColor(81, 142).blue() < 100; }
 
+    qint64 now = today + 16 * hour;
     QSignalSpy touched{this, &Blackboard::signalTouch};
     QSignalSpy released{this, &Blackboard::signalMouseRelease};
 
@@ -61,24 +66,24 @@ class TestBlackboard : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { now = today + 16 * hour; }
-
     void touchFindsAReading_data()
     {
-        QTest::addColumn<QList<int>>("modeDayFingerType");
+        using Touch = QList<int>;
+        QTest::addColumn<Touch>("modeDayFingerType");
         QTest::addColumn<QVariantList>("reading");
-        const auto row = [](const char *name, const QList<int> &touch,
-                            const QVariantList &reading) {
-            QTest::newRow(name) << touch << reading;
+        const auto reading = [](float x, int time, const QString &unit) {
+            const float value = week[time];
+            return QVariantList{x, time, value, PmColorGenerator().colorOfPm(value), unit};
         };
-        row("left of the first", {0, 0, 3, 1}, {65.0F, today + hour, 20.0F, "μg/m³"});
-        row("nearer to the first", {0, 0, 72, 2}, {65.0F, today + hour, 20.0F, "℃"});
-        row("a tie", {0, 0, 73, 2}, {81.0F, today + hour * 3 / 2, 30.5F, "℃"});
-        row("right of the last", {0, 0, 850, 3}, {81.0F, today + hour * 3 / 2, 30.5F, "%"});
-        row("24 hours ignore the day", {0, 1, 850, 9}, {81.0F, today + hour * 3 / 2, 30.5F, "%"});
-        row("yesterday", {1, 1, 3, 2}, {404.0F, today - 12 * hour, 90.0F, "℃"});
-        row("a day without readings", {1, 3, 400, 2}, {});
-        row("at the edge", {0, 0, 0, 2}, {});
+        const QVariantList first = reading(65, today + hour, "μg/m³");
+        const QVariantList last = reading(81, today + hour * 3 / 2, "%");
+        QTest::newRow("left of the first") << Touch{0, 0, 3, 1} << first;
+        QTest::newRow("nearer to the first") << Touch{0, 0, 72, 1} << first;
+        QTest::newRow("a tie") << Touch{0, 0, 73, 3} << last;
+        QTest::newRow("right of the last, 24 hours ignore the day") << Touch{0, 1, 850, 9} << last;
+        QTest::newRow("yesterday") << Touch{1, 1, 3, 2} << reading(404, today - 12 * hour, "℃");
+        QTest::newRow("a day without readings") << Touch{1, 3, 400, 2} << QVariantList();
+        QTest::newRow("at the edge") << Touch{0, 0, 0, 2} << QVariantList();
     }
 
     void touchFindsAReading()
@@ -86,8 +91,8 @@ private slots:
         QFETCH(const QList<int>, modeDayFingerType);
         QFETCH(const QVariantList, reading);
         const QPoint finger(modeDayFingerType[2], 200);
-        const bool reported = !reading.isEmpty() || finger.x() == 0;
-        Board board(&now, week, modeDayFingerType[3]);
+        const int notFound = reading.isEmpty() && finger.x() > 0 ? 1 : 0;
+        Board board(week, modeDayFingerType[3]);
         board.mode = modeDayFingerType[0];
         board.day = modeDayFingerType[1];
         board.update();
@@ -95,26 +100,22 @@ private slots:
         const MessageLog log;
         pressAt(&board, finger);
         board.painted();
-        QVERIFY(log.contains("Blackboard Press"));
+        QCOMPARE(board.touched.value(0), reading);
         QCOMPARE(board.touched.count(), reading.isEmpty() ? 0 : 1);
-        QCOMPARE(board.released.count(), reported ? 0 : 1);
-        if (!reading.isEmpty()) {
-            QVariantList sent = board.touched.first();
-            const QColor color = sent.takeAt(3).value<QColor>();
-            QCOMPARE(sent, reading);
-            QCOMPARE(color, PmColorGenerator().colorOfPm(reading[2].toFloat()));
-            QVERIFY(log.contains(QString("Nearest X: %1 Value").arg(reading[1].toInt())));
-        }
+        QCOMPARE(board.released.count(), notFound);
+        const auto line = QString("Nearest X: %1 Value  %2");
+        for (const auto &[time, value] : week.asKeyValueRange())
+            QCOMPARE(log.lines().contains(line.arg(time).arg(value)), reading.value(1) == time);
         releaseAt(&board, finger);
-        QVERIFY(log.contains("Blackboard Over"));
-        QCOMPARE(board.released.count(), reported ? 1 : 2);
+        QCOMPARE(log.lines().first() + log.lines().last(), "Blackboard PressBlackboard Over");
+        QCOMPARE(board.released.count(), notFound + 1);
     }
 
     void aFingerRepaintsItsMarkerOnly()
     {
         Readings readings = week;
         readings[today + 4 * hour] = readings[today + 15 * hour] = 25;
-        Board board(&now, readings);
+        Board board(readings);
         const QImage before = board.onScreen();
         pressAt(&board, {60, 200});
         QVERIFY(board.painted().boundingRect().width() <= 24);
@@ -123,18 +124,13 @@ private slots:
         board.painted();
         QCOMPARE(board.touched.count(), 2);
         // A jump repaints both places, a step one rectangle.
-        QTest::mouseMove(&board, {500, 100});
-        const QRegion jump = board.painted();
+        const QRegion jump = board.painted({500});
         QCOMPARE(jump.rectCount(), 2);
         QVERIFY(jump.begin()[0].width() + jump.begin()[1].width() <= 48);
-        QTest::mouseMove(&board, {158, 100});
-        board.painted();
+        board.painted({158});
         // Several events between two paintings: the last one counts, the others leave nothing.
-        for (const int x : {70, 81, 62})
-            QTest::mouseMove(&board, {x, 100});
-        QCOMPARE(board.painted().rectCount(), 1);
+        QCOMPARE(board.painted({70, 81, 62}).rectCount(), 1);
         QCOMPARE(board.touched.last()[0].toFloat(), 65.0F);
-
         releaseAt(&board, {62, 100});
         QVERIFY(board.painted().boundingRect().width() <= 24);
         QVERIFY(board.onScreen() == before);
@@ -142,29 +138,33 @@ private slots:
 
     void midnightMovesTheDays()
     {
-        Board board(&now, week);
+        Board board;
         pressAt(&board, {60, 200});
         board.painted();
-        QVERIFY(board.onScreen().pixelColor(81, 142).blue() < 100);
-        now = today + day;
+        QVERIFY(board.showsItsLastDot());
+        board.now = today + day;
         board.update(0, 0, 9, 9);
         QCOMPARE(board.painted(), QRegion(board.rect()));
         QVERIFY(board.released.count() > 0);
-        QCOMPARE(board.getDayTimeRange(0).first, qint64(today + day));
-        QVERIFY(board.onScreen().pixelColor(81, 142).blue() > 200);
+        QVERIFY(!board.showsItsLastDot());
     }
 
     void daysAndPlaces()
     {
         using Days = std::pair<qint64, qint64>;
-        Board board(&now, week);
+        Readings readings = week;
+        readings[today] = std::numeric_limits<float>::quiet_NaN();
+        const MessageLog log;
+        Board board(readings);
+        QCOMPARE(board.searchNearestScreenX(3, true), today + hour);
+        QCOMPARE(log.lines(),
+                 QStringList({"Blackboard: left out 1 readings that are no numbers", "1 3 1 1"}));
         QCOMPARE(board.getDayTimeRange(4), Days(today, today + day));
         board.mode = 1;
         QCOMPARE(board.getDayTimeRange(6), Days(today - 6 * day, today - 5 * day));
         QCOMPARE(board.getDayTimeRange(7), Days(today - 518400, today + day));
         board.mode = 0;
-        QVERIFY(!Blackboard::is0oclock(today));
-        QVERIFY(Blackboard::is0oclock(today + 1));
+        QVERIFY(!Blackboard::is0oclock(today) && Blackboard::is0oclock(today + 1));
         QCOMPARE(board.timeXToScreenX(12 * hour, true), 404.5F);
         QCOMPARE(board.timeXToScreenX(4 * hour, false), 404.5F);
         QCOMPARE(board.valueYToScreenY(25), 244.0F);
@@ -176,66 +176,43 @@ private slots:
         QCOMPARE(board.valueYToScreenY(20), 236.0F);
     }
 
-    void oddReadingsAndSizes_data()
-    {
-        QTest::addColumn<Readings>("readings");
-        constexpr int last = std::numeric_limits<int>::max();
-        constexpr float infinity = std::numeric_limits<float>::infinity();
-        QTest::newRow("none") << Readings();
-        QTest::newRow("one") << Readings{{today, 5}};
-        QTest::newRow("repeated") << Readings{{today, 5}, {today + 1, 5}};
-        QTest::newRow("negative") << Readings{{today, -5}, {today + 1, -5000}};
-        QTest::newRow("huge") << Readings{{today, 3e38F}, {today + 1, -3e38F}};
-        QTest::newRow("huge, repeated") << Readings{{today, 2e9F}, {today + 1, 2e9F}};
-        QTest::newRow("infinite") << Readings{{today, infinity}, {today + 9, -infinity}};
-        QTest::newRow("extreme times") << Readings{{-last - 1, 5}, {0, 6}, {last, 7}};
-    }
-
     void oddReadingsAndSizes()
     {
-        QFETCH(const Readings, readings);
-        Board board(&now, readings);
-        for (const QSize size : {QSize(1, 1), QSize(114, 123), QSize(116, 124), QSize(117, 126),
-                                 QSize(4000, 3), QSize(854, 400)}) {
-            board.mode = 1 - board.mode;
-            board.resize(size);
-            pressAt(&board, {qMin(60, size.width() - 1), 0});
-            board.painted();
-            releaseAt(&board, {0, 0});
+        constexpr int last = std::numeric_limits<int>::max();
+        constexpr float infinity = std::numeric_limits<float>::infinity();
+        using R = Readings;
+        for (const Readings &readings :
+             {R(), R{{today, 5}}, R{{today, 5}, {today + 1, 5}}, R{{today, -5}, {today + 1, -5000}},
+              R{{today, 2e9F}, {today + 1, 2e9F}}, R{{today, infinity}, {today + 9, -infinity}},
+              R{{-last - 1, 5}, {0, 6}, {last, 7}}}) {
+            Board board(readings);
+            for (const QSize size : {QSize(1, 1), QSize(114, 123), QSize(116, 124), QSize(117, 126),
+                                     QSize(4000, 3), QSize(854, 400)}) {
+                board.mode = 1 - board.mode;
+                board.resize(size);
+                pressAt(&board, {qMin(60, size.width() - 1), 0});
+                board.painted();
+                releaseAt(&board, {0, 0});
+            }
+            QCOMPARE(board.touched.isEmpty(), readings.size() < 2 || readings.firstKey() < 0);
+            QVERIFY(!readings.isEmpty() || board.valueYToScreenY(15) == 60.0F);
         }
-        QCOMPARE(board.touched.isEmpty(), readings.size() < 2 || readings.firstKey() < 0);
-        if (readings.isEmpty())
-            QCOMPARE(board.valueYToScreenY(15), 60.0F);
-    }
-
-    void readingsThatAreNoNumbersAreLeftOut()
-    {
-        Readings readings = week;
-        readings[today] = std::numeric_limits<float>::quiet_NaN();
-        const MessageLog log;
-        Board board(&now, readings);
-        QVERIFY(log.contains("left out 1 readings"));
-        QCOMPARE(board.searchNearestScreenX(3, true), today + hour);
-        QVERIFY(log.contains("1 3 1 1"));
     }
 
     void theAxesCanBeRevealed()
     {
-        Board board(&now, week);
+        Board board;
         const QImage whole = board.onScreen();
         const MessageLog log;
         board.reanimate1();
         board.animating = true;
         board.reanimate1();
         board.timeLineFrameChanged(0);
-        QCOMPARE(log.lines(), (QStringList{"jjjj", "time line"}));
+        QCOMPARE(log.lines(), QStringList({"jjjj", "time line"}));
         QCOMPARE(board.painted(), QRegion(board.rect()));
         QVERIFY(board.onScreen().copy(0, 345, 854, 30) != whole.copy(0, 345, 854, 30));
-        QVERIFY(board.onScreen().pixelColor(81, 142).blue() < 100);
+        QVERIFY(board.showsItsLastDot());
     }
-
-private:
-    qint64 now = 0;
 };
 
 ZELL_TEST_MAIN(TestBlackboard)

@@ -2,34 +2,25 @@
 #include "tests/support/Environment.h"
 #include "tests/support/MessageLog.h"
 
-#include <limits>
+#include <cmath>
 
 class TestColorScale : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void concentrations_data()
-    {
-        QTest::addColumn<float>("pm");
-        QTest::addColumn<QString>("color");
-        QTest::newRow("clean") << 0.0F << "#64dd17";
-        QTest::newRow("below the scale") << -1e30F << "#64dd17";
-        QTest::newRow("half-way to yellow") << 83.325F << "#b1e429";
-        QTest::newRow("yellow") << 166.65F << "#ffeb3b";
-        QTest::newRow("towards red") << 250.0F << "#f99638";
-        QTest::newRow("red") << 333.3F << "#f44336";
-        QTest::newRow("end") << 500.0F << "#ba1650";
-        QTest::newRow("above the scale") << 1e30F << "#ba1650";
-        QTest::newRow("no number") << std::numeric_limits<float>::quiet_NaN() << "#64dd17";
-    }
-
     void concentrations()
     {
-        QFETCH(float, pm);
         const MessageLog log;
-        QTEST(PmColorGenerator().colorOfPm(pm).name(), "color");
-        QVERIFY(log.contains("parse red 100 green 221 blue 23"));
+        PmColorGenerator scale;
+        QCOMPARE(log.lines().first(), QString("parse red 100 green 221 blue 23"));
+        // The ends, what lies beyond them and is no number, the stops, half-way between stops.
+        const std::pair<float, const char *> colors[] = {
+            {0, "#64dd17"},      {500, "#ba1650"},     {-9e9F, "#64dd17"},
+            {9e9F, "#ba1650"},   {NAN, "#64dd17"},     {166.65F, "#ffeb3b"},
+            {333.3F, "#f44336"}, {83.325F, "#b1e429"}, {250, "#f99638"}};
+        for (const auto &[pm, color] : colors)
+            QCOMPARE(scale.colorOfPm(pm).name(), QString(color));
     }
 
     void scalesOfOneOwn()
@@ -42,10 +33,7 @@ private slots:
         QCOMPARE(scale.colorAt(0.9F), QString("#33190c"));
         scale.setEndColor(0x00FFFF);
         QCOMPARE(scale.colorAt(2.0F), QString("#0ffff"));
-    }
 
-    void aStopEndsItsInterval()
-    {
         const QMap<float, RGB> stops{{0.25F, {}}, {0.5F, {}}};
         QCOMPARE(findRangRgb(0.5F, stops), std::pair(0.25F, 0.5F));
         for (const float outside : {0.1F, 0.9F, 1.5F})
