@@ -136,9 +136,6 @@ void updateFirmware::finish_reply(QNetworkReply *reply)
         jump_installFirmware_page();
     }
     reply->deleteLater();
-    // Ends the manager's thread and sockets: pages left behind stay, each with its manager.
-    QMetaObject::invokeMethod(reply->manager(), &QNetworkAccessManager::clearConnectionCache,
-                              Qt::QueuedConnection);
 }
 
 void updateFirmware::jump_retryFirmware_page()

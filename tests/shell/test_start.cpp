@@ -54,7 +54,8 @@ private slots:
         QMetaObject::invokeMethod(&window, "jump_toOption");
         QVERIFY(page->isVisible() && page->x() == 854 && stack->currentIndex() == 1);
         QTRY_COMPARE(stack->currentIndex(), 2);
-        QMetaObject::invokeMethod(&window, "jump_toMainPage");
+        QMetaObject::invokeMethod(window.findChild<QWidget *>("OptionPage"),
+                                  "signal_back_lastPage");
         QVERIFY(!page->isVisible() && stack->currentIndex() == 1);
     }
 };
