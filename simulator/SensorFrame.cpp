@@ -15,8 +15,9 @@ QByteArray noise(qsizetype size, QRandomGenerator &random)
         byte = char(random.bounded(256));
     return bytes;
 }
-} // namespace
 
+/// Of each of the 14 groups of four bytes the first two count once, the third 256 times and the
+/// fourth not at all.
 quint16 sensorChecksum(const QByteArray &frame)
 {
     const auto *byte = reinterpret_cast<const uchar *>(frame.constData());
@@ -25,6 +26,7 @@ quint16 sensorChecksum(const QByteArray &frame)
         sum = quint16(sum + byte[i] + byte[i + 1] + 256 * byte[i + 2]);
     return sum;
 }
+} // namespace
 
 QByteArray sensorFrame(quint32 particles, QRandomGenerator &random)
 {

@@ -27,35 +27,6 @@ private slots:
         QVERIFY(rippled.at(100, 7) != rippled.at(100, 8));
     }
 
-    void checksumSkipsWhatTheSensorSkips_data()
-    {
-        QTest::addColumn<int>("offset");
-        QTest::addColumn<int>("byte");
-        QTest::addColumn<int>("sum");
-        // "Z", 0xA5 and zeros: 0x5A + 0xA5 = 0xFF
-        QTest::newRow("nothing else") << 2 << 0 << 0xFF;
-        QTest::newRow("second of a group") << 5 << 3 << 0x102;
-        QTest::newRow("third of a group") << 6 << 3 << 0x3FF;
-        QTest::newRow("third, wrapping") << 54 << 0xFF << 0xFFFF;
-        QTest::newRow("fourth of a group") << 3 << 3 << 0xFF;
-        QTest::newRow("last group's fourth") << 55 << 3 << 0xFF;
-        QTest::newRow("behind the groups") << 56 << 3 << 0xFF;
-    }
-
-    void checksumSkipsWhatTheSensorSkips()
-    {
-        QFETCH(int, offset);
-        QFETCH(int, byte);
-        QFETCH(int, sum);
-        QByteArray frame(FRAME_SIZE, '\0');
-        frame[0] = 'Z';
-        frame[1] = char(0xA5);
-        frame[offset] = char(byte);
-        QCOMPARE(int(sensorChecksum(frame)), sum);
-        frame[10] = 1; // one more than 16 bits hold in the wrapping row
-        QCOMPARE(int(sensorChecksum(frame)), (sum + 0x100) % 0x10000);
-    }
-
     void programDecodesGoodFramesOnly_data()
     {
         QTest::addColumn<FrameFault>("fault");
