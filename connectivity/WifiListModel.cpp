@@ -4,12 +4,13 @@
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QPointer>
+#include <QTimer>
 #include <algorithm>
 #include <chrono>
 
 namespace {
 constexpr std::chrono::milliseconds connectingTime{1000};
-// How long events are processed before the time is looked at again.
+// How long events are waited for before the time is looked at again.
 constexpr std::chrono::milliseconds eventTime{100};
 } // namespace
 
@@ -110,8 +111,11 @@ void WifiListModel::toConnect(int row)
     const QPointer<WifiListModel> self(this);
     // Not by the time of day, which may be set or pass midnight meanwhile.
     const QDeadlineTimer connected(connectingTime);
+    // Asleep between two events: a loop that only asks for them takes the whole processor.
+    QTimer look;
+    look.start(eventTime);
     while (self && !connected.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, int(eventTime.count()));
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (!self || !wifiList.contains(chosen) || !chosen->isConnecting())
         return;
     chosen->setConnectState(ConnectState::StateConnected);
