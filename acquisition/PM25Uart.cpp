@@ -132,6 +132,6 @@ void PM25Uart::portFailed(const QSerialPort *failed, QSerialPort::SerialPortErro
     const bool isLost = error == QSerialPort::ResourceError || error == QSerialPort::ReadError;
     if (!isLost || failed != port || !port->isOpen())
         return;
-    qDebug() << "UART lost, port closed:" << port->errorString();
+    qDebug() << "UART lost, port closed:" << error;
     port->close();
 }
