@@ -6,8 +6,8 @@
 class QmlApplicationViewer;
 
 /// Loads what all spinners share, once per run of the program and shortly after this call, so that
-/// the first page with wheels opens as fast as any later one. For the pages on the way to wheels: it
-/// holds the event loop up for some 10 ms, when their own picture is on the screen.
+/// the first page with wheels opens as fast as any later one. For the pages on the way to wheels:
+/// it holds the event loop up for some 10 ms, when their own picture is on the screen.
 void readySpinnersSoon();
 
 /// Loads the spinner "spinner_<name>.qml" into @p host and shows it with row @p row in the middle.

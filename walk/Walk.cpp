@@ -1,8 +1,8 @@
 #include "walk/Walk.h"
 
 #include "acquisition/GetData.h"
-#include "tests/support/Environment.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/Touch.h"
 
 #include <QAbstractButton>
 #include <QApplication>

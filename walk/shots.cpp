@@ -1,6 +1,6 @@
 #include "store/ZellDatabase.h"
-#include "tests/support/Environment.h"
-#include "tests/support/FixedClock.h"
+#include "testkit/Environment.h"
+#include "testkit/FixedClock.h"
 #include "walk/Languages.h"
 #include "walk/LayoutCheck.h"
 #include "walk/Walk.h"

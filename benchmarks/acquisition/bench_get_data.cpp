@@ -2,7 +2,7 @@
 #include "benchmarks/support/Yardstick.h"
 #include "shell/Global_cfg.h"
 #include "store/ZellDatabase.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 namespace {
 // Every second of the life of a device that has run for hours, on the GUI thread.

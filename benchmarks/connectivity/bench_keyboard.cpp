@@ -1,7 +1,7 @@
 #include "benchmarks/support/Yardstick.h"
 #include "connectivity/KeyBorad.h"
 #include "pages/Ground.h"
-#include "tests/support/Touch.h"
+#include "testkit/Touch.h"
 
 #include <QApplication>
 #include <QFrame>

@@ -1,7 +1,7 @@
 #include "benchmarks/support/Yardstick.h"
 #include "connectivity/SetWifiPage.h"
 #include "pages/Ground.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include <QApplication>
 #include <QDir>

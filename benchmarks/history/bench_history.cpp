@@ -2,7 +2,7 @@
 #include "history/Blackboard.h"
 #include "history/DemonstrationSeries.h"
 #include "history/HistoryPage.h"
-#include "tests/support/Touch.h"
+#include "testkit/Touch.h"
 
 #include <QCoreApplication>
 #include <QTabWidget>

@@ -1,6 +1,6 @@
 #include "benchmarks/support/Yardstick.h"
 #include "settings/OptionPage.h"
-#include "tests/support/Touch.h"
+#include "testkit/Touch.h"
 
 #include <QApplication>
 #include <QScrollArea>

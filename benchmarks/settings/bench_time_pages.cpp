@@ -1,7 +1,7 @@
 #include "benchmarks/support/Yardstick.h"
 #include "settings/OptionPage.h"
 #include "settings/QmlApplicationViewer.h"
-#include "tests/support/Touch.h"
+#include "testkit/Touch.h"
 
 #include <QApplication>
 #include <QQmlEngine>

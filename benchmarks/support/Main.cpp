@@ -1,5 +1,5 @@
 #include "benchmarks/support/Yardstick.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 namespace {
 // Debug lines are formatted as in the product, but a terminal's speed is none of its merit.

@@ -1,8 +1,8 @@
 #include "acquisition/GetData.h"
 #include "store/ZellDatabase.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/PseudoTerminal.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/PseudoTerminal.h"
 
 #include <QDir>
 #include <QSignalSpy>

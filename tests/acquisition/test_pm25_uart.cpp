@@ -1,8 +1,8 @@
 #include "acquisition/PM25Uart.h"
 #include "shell/Global_cfg.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/PseudoTerminal.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/PseudoTerminal.h"
 
 #include <QSignalSpy>
 

@@ -3,9 +3,9 @@
 #include "connectivity/locationResult.h"
 #include "connectivity/setLocation.h"
 #include "connectivity/tryConnectApp.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 
 #include <QLabel>
 #include <QListWidget>

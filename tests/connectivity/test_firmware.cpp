@@ -1,9 +1,9 @@
 #include "connectivity/FirmwareDownload.h"
 #include "connectivity/updateFirmware.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 #include "tests/connectivity/PackageServer.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
 
 #include <QLabel>
 #include <QProgressBar>

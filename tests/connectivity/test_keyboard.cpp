@@ -1,9 +1,9 @@
 #include "connectivity/CharacterButton.h"
 #include "connectivity/KeyBorad.h"
 #include "connectivity/KeyLayout.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,9 +1,9 @@
 #include "connectivity/WifiListModel.h"
 #include "connectivity/WifiListRowDelegate.h"
 #include "connectivity/WifiScan.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/PictureCompare.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/PictureCompare.h"
 
 #include <QAbstractItemModelTester>
 #include <QBuffer>

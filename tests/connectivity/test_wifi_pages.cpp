@@ -1,9 +1,9 @@
 #include "connectivity/SetWifiPage.h"
 #include "connectivity/passwordKeyboard.h"
 #include "pages/PagePattern.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 
 #include <QDir>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 #include "device/DevicePath.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include <QProcess>
 

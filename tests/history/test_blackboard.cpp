@@ -1,7 +1,7 @@
 #include "history/Blackboard.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 
 #include <QPaintEvent>
 #include <QScreen>

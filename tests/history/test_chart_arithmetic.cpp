@@ -1,7 +1,7 @@
 #include "history/ChartScale.h"
 #include "history/DemonstrationSeries.h"
 #include "history/NearestDot.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include <QRandomGenerator>
 #include <limits>

@@ -1,10 +1,10 @@
 #include "history/Blackboard.h"
 #include "history/HistoryPage.h"
 #include "history/SlideLabel.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/PictureCompare.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/PictureCompare.h"
+#include "testkit/Touch.h"
 
 #include <QLabel>
 #include <QRadioButton>

@@ -1,6 +1,6 @@
 #include "mainscreen/PmColorGenerator.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
 
 #include <cmath>
 

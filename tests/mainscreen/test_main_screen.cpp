@@ -2,10 +2,10 @@
 #include "mainscreen/BaseScene.h"
 #include "mainscreen/MainView.h"
 #include "shell/MainWindow.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/PseudoTerminal.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/PseudoTerminal.h"
+#include "testkit/Touch.h"
 
 #include <QGraphicsProxyWidget>
 #include <QLabel>

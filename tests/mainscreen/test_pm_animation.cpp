@@ -1,5 +1,5 @@
 #include "mainscreen/PmAnimation.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include <QLabel>
 #include <QParallelAnimationGroup>

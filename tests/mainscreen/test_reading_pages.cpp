@@ -1,8 +1,8 @@
 #include "mainscreen/DigitRow.h"
 #include "mainscreen/HumidityPage.h"
 #include "mainscreen/TemperaturePage.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
 
 #include <QLabel>
 

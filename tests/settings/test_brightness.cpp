@@ -1,9 +1,9 @@
 #include "pages/EmptyPage.h"
 #include "settings/Backlight.h"
 #include "settings/adjustLight.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 
 #include <QElapsedTimer>
 #include <QSlider>

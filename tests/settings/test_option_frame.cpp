@@ -1,6 +1,6 @@
 #include "settings/OptionFrame.h"
-#include "tests/support/Environment.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/Touch.h"
 
 #include <QSignalSpy>
 

@@ -1,8 +1,8 @@
 #include "settings/OptionPage.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/PictureCompare.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/PictureCompare.h"
+#include "testkit/Touch.h"
 
 #include <QElapsedTimer>
 #include <QScrollArea>

@@ -1,7 +1,7 @@
 #include "settings/QmlApplicationViewer.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 
 #include <QDir>
 #include <QQmlEngine>

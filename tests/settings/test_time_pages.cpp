@@ -3,9 +3,9 @@
 #include "settings/QmlApplicationViewer.h"
 #include "settings/SetTimePage.h"
 #include "settings/timePage.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/Touch.h"
 
 #include <QDateTime>
 #include <QPointer>

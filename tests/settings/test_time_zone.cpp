@@ -1,7 +1,7 @@
 #include "settings/TimeZoneItemDelegate.h"
 #include "settings/TimeZonePage.h"
-#include "tests/support/Environment.h"
-#include "tests/support/Touch.h"
+#include "testkit/Environment.h"
+#include "testkit/Touch.h"
 
 #include <QScrollBar>
 #include <QTableWidget>

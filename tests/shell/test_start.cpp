@@ -1,6 +1,6 @@
 #include "shell/Language.h"
 #include "shell/MainWindow.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include <QProcess>
 #include <QStackedWidget>

@@ -4,7 +4,7 @@
 #include "simulator/FirmwareAnswer.h"
 #include "simulator/Scenario.h"
 #include "simulator/WifiScan.h"
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include <QProcess>
 

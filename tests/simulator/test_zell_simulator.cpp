@@ -4,8 +4,8 @@
 #include "simulator/FirmwareAnswer.h"
 #include "simulator/ParticleSensor.h"
 #include "simulator/SensorFrame.h"
+#include "testkit/Environment.h"
 #include "tests/simulator/SimulatorProcess.h"
-#include "tests/support/Environment.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>

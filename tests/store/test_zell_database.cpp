@@ -1,8 +1,8 @@
 #include "acquisition/GetData.h"
 #include "shell/Global_cfg.h"
 #include "store/ZellDatabase.h"
-#include "tests/support/Environment.h"
-#include "tests/support/MessageLog.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
 
 #include <QDeadlineTimer>
 #include <QSqlDatabase>

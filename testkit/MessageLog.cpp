@@ -1,4 +1,4 @@
-#include "tests/support/MessageLog.h"
+#include "testkit/MessageLog.h"
 
 #include <QtGlobal>
 #include <algorithm>

@@ -1,5 +1,5 @@
-#include "tests/support/Environment.h"
-#include "tests/support/PictureCompare.h"
+#include "testkit/Environment.h"
+#include "testkit/PictureCompare.h"
 
 #include <QDir>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "tests/support/PictureCompare.h"
+#include "testkit/PictureCompare.h"
 
 #include <QCoreApplication>
 #include <QDir>

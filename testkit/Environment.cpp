@@ -1,4 +1,4 @@
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include "pages/Fonts.h"
 

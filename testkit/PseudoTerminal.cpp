@@ -1,6 +1,6 @@
-#include "tests/support/PseudoTerminal.h"
+#include "testkit/PseudoTerminal.h"
 
-#include "tests/support/Environment.h"
+#include "testkit/Environment.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "tests/support/Touch.h"
+#include "testkit/Touch.h"
 
 #include <QTest>
 #include <QWindow>

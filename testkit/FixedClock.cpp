@@ -1,4 +1,4 @@
-#include "tests/support/FixedClock.h"
+#include "testkit/FixedClock.h"
 
 #include <atomic>
 #include <sys/syscall.h>
