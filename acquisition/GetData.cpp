@@ -46,7 +46,7 @@ TempHumReading readTempHum()
         devicePath(QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity"));
     const TempHumReading reading = parseTempHum(readSensorFile(path));
     const bool isFaulty =
-        reading.temperature == INVALID_READING || reading.humidity == INVALID_READING;
+        reading.temperature == invalidReading || reading.humidity == invalidReading;
     if (isFaulty && !isFaultKnown)
         qDebug() << "No valid temperature and humidity in" << path;
     isFaultKnown = isFaulty;

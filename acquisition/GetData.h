@@ -17,7 +17,7 @@ class QTimer;
 ///
 /// GUI thread, and only once there is an application object: a timer started before never ticks.
 /// Its thread is empty; the slots start it and nothing waits for it but the destructor. A sensor
-/// file that cannot be read gives INVALID_READING (9999) and one debug line as long as it lasts.
+/// file that cannot be read gives invalidReading (9999) and one debug line as long as it lasts.
 ///
 /// Every scheduler reports to its own listeners its first reading and every change. The counters
 /// are shared by all of them: with three schedulers a row is due every 100 seconds.

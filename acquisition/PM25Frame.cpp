@@ -14,12 +14,12 @@ constexpr qsizetype checksumOffset = 58;
 
 bool isPm25Frame(QByteArrayView bytes)
 {
-    return bytes.size() == PM25_FRAME_LENGTH && bytes.startsWith("\x5A\xA5");
+    return bytes.size() == pm25FrameLength && bytes.startsWith("\x5A\xA5");
 }
 
 quint16 pm25Checksum(QByteArrayView frame)
 {
-    if (frame.size() < PM25_FRAME_LENGTH)
+    if (frame.size() < pm25FrameLength)
         return 0;
     quint16 sum = 0;
     for (qsizetype group = 0; group < summedBytes; group += groupLength) {
@@ -33,7 +33,7 @@ int PM2_5_dataHandle(QByteArray *frame)
 {
     const QByteArrayView bytes = frame != nullptr ? QByteArrayView(*frame) : QByteArrayView();
     const quint16 sum = pm25Checksum(bytes);
-    if (bytes.size() < PM25_FRAME_LENGTH ||
+    if (bytes.size() < pm25FrameLength ||
         sum != qFromBigEndian<quint16>(bytes.data() + checksumOffset)) {
         qDebug() << "PM2.5 CRC Error = " << sum;
         return PM25_ERROR_DATA;

@@ -8,7 +8,7 @@
 /// high byte first. Thread-safe.
 
 /// Length of a frame in bytes.
-inline constexpr qsizetype PM25_FRAME_LENGTH = 60;
+inline constexpr qsizetype pm25FrameLength = 60;
 
 /// Whether @p bytes have the length and the first two bytes of a frame.
 bool isPm25Frame(QByteArrayView bytes);

@@ -21,7 +21,7 @@ int readField(const QString &text, int position, int (*valid)(int))
 {
     bool isNumber = false;
     const int thousandths = text.mid(position, fieldLength).toInt(&isNumber);
-    return isNumber ? valid(wholeUnits(thousandths)) : INVALID_READING;
+    return isNumber ? valid(wholeUnits(thousandths)) : invalidReading;
 }
 } // namespace
 
@@ -33,17 +33,17 @@ int wholeUnits(int thousandths)
 int validTemperature(int temperature)
 {
     const bool isValid = temperature >= lowestTemperature && temperature <= highestTemperature;
-    return isValid ? temperature : INVALID_READING;
+    return isValid ? temperature : invalidReading;
 }
 
 int validHumidity(int humidity)
 {
-    return humidity <= highestHumidity ? humidity : INVALID_READING;
+    return humidity <= highestHumidity ? humidity : invalidReading;
 }
 
 int validAverage(int value)
 {
-    return value <= highestAverage ? value : INVALID_READING;
+    return value <= highestAverage ? value : invalidReading;
 }
 
 TempHumReading parseTempHum(const QByteArray &text)
@@ -52,7 +52,7 @@ TempHumReading parseTempHum(const QByteArray &text)
     // A text that ends within the temperature has lost digits: "234" of 23456 would be 0 degrees.
     // The humidity comes last, and below 10 per cent it is short by itself.
     const bool isCut = characters.size() < temperatureField + fieldLength;
-    return {isCut ? INVALID_READING : readField(characters, temperatureField, validTemperature),
+    return {isCut ? invalidReading : readField(characters, temperatureField, validTemperature),
             readField(characters, humidityField, validHumidity)};
 }
 

@@ -5,7 +5,7 @@
 
 /// From the text of the temperature and humidity sensor to readings and averages. Thread-safe.
 
-/// One reading: whole °C and whole per cent, each INVALID_READING where there is none.
+/// One reading: whole °C and whole per cent, each invalidReading where there is none.
 struct TempHumReading
 {
     int temperature;
@@ -15,19 +15,19 @@ struct TempHumReading
 /// @p thousandths to whole units: half up for positive values, towards zero behind that.
 int wholeUnits(int thousandths);
 
-/// @p temperature in °C where it lies in -40 ... 100, otherwise INVALID_READING.
+/// @p temperature in °C where it lies in -40 ... 100, otherwise invalidReading.
 int validTemperature(int temperature);
 
-/// @p humidity in per cent up to 100, otherwise INVALID_READING. A negative one passes.
+/// @p humidity in per cent up to 100, otherwise invalidReading. A negative one passes.
 int validHumidity(int humidity);
 
-/// @p value up to 2000, otherwise INVALID_READING: for PM2.5 values and averages in µg/m³ and for
+/// @p value up to 2000, otherwise invalidReading: for PM2.5 values and averages in µg/m³ and for
 /// average temperatures, where some readings of the period were invalid.
 int validAverage(int value);
 
 /// Reads both fields of the sensor's @p text (UTF-8): thousandths of °C in characters 7 to 11 and
 /// thousandths of a per cent in characters 25 to 29. A field that is missing or no number, and a
-/// temperature cut short, gives INVALID_READING, the other still counts.
+/// temperature cut short, gives invalidReading, the other still counts.
 TempHumReading parseTempHum(const QByteArray &text);
 
 /// The content of the sensor file @p path, 4 KiB at the most. Empty where it cannot be read or is

@@ -24,7 +24,7 @@ constexpr qreal logoOpacity = 0.87;
 // The picture of the dashes stands lower than a line of text would.
 void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> companions)
 {
-    if (reading != INVALID_READING) {
+    if (reading != invalidReading) {
         label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
         label->setText(QStringLiteral("%1").arg(reading));
         return;

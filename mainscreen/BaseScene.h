@@ -41,7 +41,7 @@ private slots:
     void on_frame_temperature_clicked();
     void jump_scenePage();
     void anHistory_finished();
-    /// Readings for the tiles. INVALID_READING shows dashes and hides the tile's level and unit,
+    /// Readings for the tiles. invalidReading shows dashes and hides the tile's level and unit,
     /// which stay hidden.
     void update_pmData(int value);
     void update_tempData(int value);

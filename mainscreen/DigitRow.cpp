@@ -28,7 +28,7 @@ bool DigitRow::hasBlank() const
 
 std::optional<DigitRow> pmRow(int value)
 {
-    if (value == INVALID_READING)
+    if (value == invalidReading)
         return DigitRow{.width = dashesWidth};
     if (value >= firstTooLargePm)
         return std::nullopt;
@@ -46,7 +46,7 @@ std::optional<DigitRow> pmRow(int value)
 
 DigitRow temperatureRow(int value)
 {
-    if (value == INVALID_READING)
+    if (value == invalidReading)
         return {.width = temperatureWidth, .hidesUnit = true};
     // Wider than int: the smallest int has no positive counterpart.
     const long long magnitude = std::llabs(value);
@@ -58,7 +58,7 @@ DigitRow temperatureRow(int value)
 
 DigitRow humidityRow(int value)
 {
-    if (value == INVALID_READING)
+    if (value == invalidReading)
         return {.width = humidityWidth, .hidesUnit = true};
     return {.tens = digit(value / 10), .units = digit(value % 10), .width = humidityWidth};
 }

@@ -31,12 +31,12 @@ struct DigitRow
 };
 
 /// The row of a PM2.5 value in ug/m3: three places below 1000, four from there, two dashes for
-/// INVALID_READING, nothing from 10000 (not credible). The places of a negative value, which no
+/// invalidReading, nothing from 10000 (not credible). The places of a negative value, which no
 /// sensor delivers, are blank where their digit is below zero.
 std::optional<DigitRow> pmRow(int value);
 
 /// The row of a temperature in whole degrees: a minus sign where needed and two places, of which
-/// the tens stay blank from 100; two dashes without unit for INVALID_READING.
+/// the tens stay blank from 100; two dashes without unit for invalidReading.
 DigitRow temperatureRow(int value);
 
 /// The row of a relative humidity in per cent: places as in temperatureRow(), negative values as in

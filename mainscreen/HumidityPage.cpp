@@ -18,7 +18,7 @@ HumidityPage::HumidityPage(QWidget *parent)
 
 void HumidityPage::update_currentData(int iValue)
 {
-    if (iValue == INVALID_READING)
+    if (iValue == invalidReading)
         qDebug("Error Hum number:9999");
     showRow(humidityRow(iValue));
 }

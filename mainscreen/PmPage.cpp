@@ -47,7 +47,7 @@ void PmPage::update_pmData(int iValue)
 
 void PmPage::update_currentData(int iValue)
 {
-    if (iValue == INVALID_READING)
+    if (iValue == invalidReading)
         qDebug("Error PM2.5 number:9999");
     const std::optional<DigitRow> row = pmRow(iValue);
     if (!row) {

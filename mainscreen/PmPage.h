@@ -20,7 +20,7 @@ public slots:
     void update_pmData(int iValue);
 
 protected slots:
-    /// Shows @p iValue; INVALID_READING gives dashes, 10000 and more change nothing.
+    /// Shows @p iValue; invalidReading gives dashes, 10000 and more change nothing.
     void update_currentData(int iValue);
     /// Starts the animation if it is not running, and a measurement in any case.
     void ShowAnimation();

@@ -9,14 +9,14 @@ TemperaturePage::TemperaturePage(QWidget *parent)
 {
     setObjectName(QStringLiteral("TemperaturePage"));
     setUnitPicture(QStringLiteral(":/resource/images/mainPage/num/°C.png"));
-    DigitRow noReadingYet = temperatureRow(INVALID_READING);
+    DigitRow noReadingYet = temperatureRow(invalidReading);
     noReadingYet.hidesUnit = false;
     showRow(noReadingYet);
 }
 
 void TemperaturePage::update_currentData(int iValue)
 {
-    if (iValue == INVALID_READING)
+    if (iValue == invalidReading)
         qDebug("Error Temp number:9999");
     showRow(temperatureRow(iValue));
 }

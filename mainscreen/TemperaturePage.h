@@ -11,7 +11,7 @@ public:
     explicit TemperaturePage(QWidget *parent = nullptr);
 
 protected slots:
-    /// Shows @p iValue; INVALID_READING gives dashes and takes the unit away for good.
+    /// Shows @p iValue; invalidReading gives dashes and takes the unit away for good.
     void update_currentData(int iValue);
 
 private:

@@ -28,7 +28,7 @@ inline constexpr int TEMPHUM_TIME_duration = 300;
 
 /// The reading that stands for "no valid reading" in temperature, humidity and PM2.5 alike; the
 /// screens draw it as dashes.
-inline constexpr int INVALID_READING = 9999;
+inline constexpr int invalidReading = 9999;
 
 /// How many schedulers may exist at once, the three of normal running counted in. Every stored row
 /// builds one more, and all of them share the counter that triggers the next row, so without a
