@@ -1,10 +1,8 @@
 #include "settings/setLanguagePage.h"
 
+#include "pages/Language.h"
 #include "settings/Restart.h"
 #include "ui_setLanguagePage.h"
-
-#include <QDir>
-#include <QFile>
 
 setLanguagePage::setLanguagePage(QWidget *parent)
     : QWidget(parent)
@@ -20,15 +18,10 @@ setLanguagePage::~setLanguagePage() = default;
 
 void setLanguagePage::show_language_list()
 {
-    const std::pair<QString, QString> languages[] = {
-        {tr("中文（简体）"), QStringLiteral("ZH_SIMPLE.qm")},
-        {tr("中文（繁體）"), QStringLiteral("ZH_COMPLEX.qm")},
-        {tr("English"), QStringLiteral("US.qm")},
-    };
-    for (const auto &[text, translationFile] : languages) {
-        auto *item = new QListWidgetItem(text, ui->listWidget);
+    for (const Language &language : Language::all()) {
+        auto *item = new QListWidgetItem(tr(language.title()), ui->listWidget);
         item->setTextAlignment(Qt::AlignCenter);
-        item->setData(Qt::WhatsThisRole, translationFile);
+        item->setData(Qt::WhatsThisRole, language.translationFile());
     }
 }
 
@@ -37,16 +30,8 @@ void setLanguagePage::on_listWidget_itemClicked(QListWidgetItem * /*item*/) {}
 void setLanguagePage::on_button_back_clicked()
 {
     emit signal_backDefaultPage();
-    writeLanguageFile();
+    if (const QListWidgetItem *item = ui->listWidget->currentItem())
+        Language(item->data(Qt::WhatsThisRole).toString()).store();
+    // Kept[restart-without-change]: whatever was chosen, and if nothing was.
     restartProgram();
-}
-
-void setLanguagePage::writeLanguageFile() const
-{
-    const QListWidgetItem *item = ui->listWidget->currentItem();
-    if (item == nullptr)
-        return;
-    QFile file(QDir::currentPath() + QStringLiteral("/language.txt"));
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(item->data(Qt::WhatsThisRole).toString().toUtf8());
 }

@@ -8,8 +8,8 @@ namespace Ui {
 class setLanguagePage;
 }
 
-/// The language page. Leaving it writes the chosen translation's file name to "language.txt" in the
-/// working directory and restarts the program, which loads it; nothing changes before. GUI thread.
+/// The language page. Leaving it writes the language file and restarts the program, which reads it;
+/// nothing changes before. GUI thread.
 class setLanguagePage : public QWidget
 {
     Q_OBJECT
@@ -21,14 +21,13 @@ public:
 signals:
     void signal_backDefaultPage();
 
-private slots:
-    /// Nothing: the selection of the list is the choice.
+public slots:
+    /// Does nothing: the selection of the list is the choice.
     void on_listWidget_itemClicked(QListWidgetItem *item);
     void on_button_back_clicked();
 
 private:
     void show_language_list();
-    void writeLanguageFile() const;
 
     std::unique_ptr<Ui::setLanguagePage> ui;
 };

@@ -16,8 +16,10 @@
 #include <ctime>
 
 namespace {
-constexpr std::chrono::seconds tick{1};
-}
+using namespace std::chrono_literals;
+
+constexpr auto tick = 1s;
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     // Flags that change later have the style sheet applied to every widget once more.
@@ -61,6 +63,7 @@ void MainWindow::connect_init()
     connect(optionPage, &OptionPage::signal_back_lastPage, this, &MainWindow::jump_toMainPage);
 }
 
+// Kept[clock-hook]: the local second that it computes is thrown away.
 void MainWindow::time_update()
 {
     std::time_t now = std::time(nullptr);
@@ -72,6 +75,7 @@ void MainWindow::time_update()
     localtime_r(&now, &local);
 }
 
+// Kept[window-hooks]: nothing calls it, and nobody listens to the window's signals.
 void MainWindow::change_status()
 {
     if (!active)

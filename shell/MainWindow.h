@@ -26,12 +26,10 @@ signals:
     void signal_inactiveStatus();
 
 public slots:
-    /// The tick of every second: a hook without effect.
+    /// Ticks once a second: a hook without effect.
     void time_update();
-    /// Puts an active window to rest, once: hook for a screen that may sleep.
+    /// Puts an active window to rest, once: a hook for a screen that may sleep.
     void change_status();
-
-private slots:
     void jump_toOption();
     void jump_toMainPage();
     void anOption_finished();

@@ -1,11 +1,10 @@
 #include "acquisition/GetData.h"
+#include "pages/Language.h"
 #include "shell/Global_cfg.h"
-#include "shell/Language.h"
 #include "shell/MainWindow.h"
 #include "store/ZellDatabase.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QQuickWindow>
 #include <QTimer>
 #include <QTranslator>
@@ -24,10 +23,11 @@ int main(int argc, char *argv[])
     QTimer randUARTSignal; // a spare: never started
     Q_INIT_RESOURCE(ZellQt);
 
-    g_sLanguage = readLanguageFile(QDir::currentPath());
+    const Language language = Language::stored();
+    g_sLanguage = language.translationFile();
     QTranslator translator;
     // A name that matches no resource leaves the source texts in place.
-    static_cast<void>(translator.load(translationResource(g_sLanguage)));
+    static_cast<void>(translator.load(language.resource()));
     QApplication::installTranslator(&translator);
 
     MainWindow window;

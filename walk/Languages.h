@@ -1,18 +1,18 @@
 #pragma once
 
-#include "shell/Language.h"
+#include "pages/Language.h"
 
 #include <QApplication>
 #include <QTranslator>
 
-/// The program in one of its languages, by the name of the translation file, while this lives.
+/// Shows the program in one of its languages while this lives.
 class InLanguage
 {
 public:
-    explicit InLanguage(const QString &translationFile)
+    explicit InLanguage(const Language &language)
     {
-        if (!translator.load(translationResource(translationFile)))
-            qFatal("no translation %s", qPrintable(translationFile));
+        if (!translator.load(language.resource()))
+            qFatal("no translation %s", qPrintable(language.translationFile()));
         QApplication::installTranslator(&translator);
     }
 

@@ -45,7 +45,7 @@ QImage contactSheet(const std::vector<Stop> &stops, const QList<QImage> &picture
 /// Walks in one language and writes every picture; returns the number of findings.
 int photograph(const QString &language, const QDir &target, QTextStream &out)
 {
-    const InLanguage spoken(language + QStringLiteral(".qm"));
+    const InLanguage spoken(Language(language + QStringLiteral(".qm")));
     const QDir folder(target.filePath(language));
     folder.mkpath(QStringLiteral("."));
     const std::vector<Stop> stops = wholeWalk();
@@ -69,7 +69,7 @@ int photograph(const QString &language, const QDir &target, QTextStream &out)
 /// The main screen sliding, frame by frame: once over its three pages.
 void film(const QDir &target)
 {
-    const InLanguage spoken("ZH_SIMPLE.qm");
+    const InLanguage spoken(Language("ZH_SIMPLE.qm"));
     const QDir folder(target.filePath("slide"));
     folder.mkpath(".");
     Walk walk;
@@ -108,8 +108,10 @@ int main(int argc, char *argv[])
     }
     const QDir target(QDir::current().absoluteFilePath(QString::fromLocal8Bit(argv[1])));
     QStringList languages = QCoreApplication::arguments().mid(2);
-    if (languages.isEmpty())
-        languages = QStringList{"ZH_SIMPLE", "ZH_COMPLEX", "US"};
+    if (languages.isEmpty()) {
+        for (const Language &language : Language::all())
+            languages.append(language.translationFile().chopped(3));
+    }
 
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
         if (type != QtDebugMsg)

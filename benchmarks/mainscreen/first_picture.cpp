@@ -2,6 +2,7 @@
 // with all that stands before it, otherwise a plain window with the same background.
 
 #include "acquisition/GetData.h"
+#include "pages/Language.h"
 #include "shell/MainWindow.h"
 #include "store/ZellDatabase.h"
 
@@ -40,7 +41,7 @@ int runProduct()
     zelldatabase = &database;
     const GetData scheduler;
     QTranslator translator;
-    static_cast<void>(translator.load(QStringLiteral(":/resource/translation/ZH_COMPLEX.qm")));
+    static_cast<void>(translator.load(Language({}).resource()));
     QApplication::installTranslator(&translator);
     MainWindow window;
     return run(&window);

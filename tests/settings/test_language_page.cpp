@@ -1,67 +1,130 @@
+#include "pages/Language.h"
 #include "settings/setLanguagePage.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
 #include <QDir>
 #include <QTimer>
+#include <csignal>
+#include <sys/resource.h>
 
 class TestLanguagePage : public QObject
 {
     Q_OBJECT
 
+    struct Choice
+    {
+        const char *name;
+        int row;
+        const char *written;
+    };
+    struct Stored
+    {
+        const char *name;
+        QByteArray content;
+        QString translationFile;
+    };
+    struct Script
+    {
+        const char *name;
+        const char *commands;
+    };
+
 private slots:
     void init()
     {
         QFile::remove("restarts");
+        QFile::remove("language.txt");
         Environment::writeDeviceScript(script, "echo run >> restarts");
         page = std::make_unique<setLanguagePage>();
         page->show();
     }
 
+    void choiceIsWrittenByteForByte_data()
+    {
+        addRows<Choice>({{"simplified Chinese", 0, "ZH_SIMPLE.qm"},
+                         {"traditional Chinese", 1, "ZH_COMPLEX.qm"},
+                         {"English", 2, "US.qm"},
+                         {"none", 3, ""}});
+    }
+
     void choiceIsWrittenByteForByte()
     {
-        const char *const contents[] = {"ZH_SIMPLE.qm", "ZH_COMPLEX.qm", "US.qm", ""};
-        for (int row = 0; row < 4; ++row) {
-            init();
-            QFile::remove("language.txt");
-            if (row < 3)
-                tapAt(page.get(), {427, 160 + 80 * row + 40});
-            leave();
-            QCOMPARE(Environment::contentOf("language.txt"), contents[row]);
-            QCOMPARE(Environment::contentOf("restarts"), "run\n");
-            QVERIFY(!page->isVisible());
-        }
+        QFETCH(Choice, row);
+        choose(row.row);
+        leave();
+        QCOMPARE(Environment::contentOf("language.txt"), row.written);
+        QCOMPARE(Environment::contentOf("restarts"), "run\n");
+        QVERIFY(!page->isVisible());
     }
 
     void fileThatCannotBeWrittenDoesNotStopTheRestart()
     {
-        QDir().mkdir("language.txt");
-        tapAt(page.get(), {427, 200});
+        QVERIFY(QDir().mkdir("language.txt"));
+        choose(0);
         leave();
         QCOMPARE(Environment::contentOf("restarts"), "run\n");
+        QVERIFY(QDir().rmdir("language.txt"));
+    }
+
+    void fullDiskLeavesTheLanguageAsItWas()
+    {
+        Language("US.qm").store();
+        rlimit room{};
+        getrlimit(RLIMIT_FSIZE, &room);
+        const rlimit none{0, room.rlim_max};
+        signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &none);
+        Language("ZH_SIMPLE.qm").store();
+        setrlimit(RLIMIT_FSIZE, &room);
+        QCOMPARE(Environment::contentOf("language.txt"), "US.qm");
+    }
+
+    void lastLineOfTheFileDecides_data()
+    {
+        addRows<Stored>({{"no file", {}, "ZH_COMPLEX.qm"},
+                         {"foreign line end", "US.qm\r\n", "US.qm"},
+                         {"two lines", "US.qm\nZH_SIMPLE.qm", "ZH_SIMPLE.qm"},
+                         {"empty last line", "US.qm\n\n", "ZH_COMPLEX.qm"},
+                         {"ten megabytes", QByteArray(10 << 20, 'x'), QString(65536, 'x')}});
+    }
+
+    void lastLineOfTheFileDecides()
+    {
+        QFETCH(Stored, row);
+        QFile file("language.txt");
+        QVERIFY(row.content.isNull() || file.open(QIODevice::WriteOnly));
+        file.write(row.content);
+        file.close();
+        QCOMPARE(Language::stored().resource(), ":/resource/translation/" + row.translationFile);
+    }
+
+    void failingScriptLeavesTheScreenAsItWas_data()
+    {
+        addRows<Script>({{"failing", "exit 1"}, {"hanging", "exec sleep 8"}, {"missing", ""}});
     }
 
     void failingScriptLeavesTheScreenAsItWas()
     {
-        for (const char *commands : {"", "exit 1", "exec sleep 8"}) {
-            init();
-            Environment::writeDeviceScript(script, commands);
-            if (*commands == '\0')
-                QFile::remove(Environment::deviceRoot() + script);
-            MessageLog log;
-            // Leaves from within an event loop, which the closing of the last window would end.
-            QTimer::singleShot(0, page.get(), [this] {
-                leave();
-                QTimer::singleShot(0, [] { QTimer::singleShot(0, [] { qApp->exit(1); }); });
-            });
-            QCOMPARE(QCoreApplication::exec(), 1);
-            QVERIFY2(page->isVisible(), commands);
-            QCOMPARE(log.lines().size(), 1);
-        }
+        QFETCH(Script, row);
+        Environment::writeDeviceScript(script, row.commands);
+        if (*row.commands == '\0')
+            QFile::remove(Environment::deviceRoot() + script);
+        MessageLog log;
+        // Leaves from within an event loop, which the closing of the last window would end.
+        QTimer::singleShot(0, page.get(), [this] {
+            leave();
+            QTimer::singleShot(0, [] { QTimer::singleShot(0, [] { qApp->exit(1); }); });
+        });
+        QCOMPARE(QCoreApplication::exec(), 1);
+        QVERIFY(page->isVisible());
+        QCOMPARE(log.lines().size(), 1);
     }
 
 private:
+    void choose(int row) { tapAt(page.get(), {427, 160 + 80 * row + 40}); }
     void leave() { tap(page->findChild<QWidget *>("button_back")); }
 
     static constexpr const char *script = "/bin/restartZellQt.sh";

@@ -25,7 +25,7 @@ private slots:
 
     void simplifiedChinese()
     {
-        const InLanguage spoken("ZH_SIMPLE.qm");
+        const InLanguage spoken(Language("ZH_SIMPLE.qm"));
         QStringList findings;
         Walk walk;
         const std::vector<Stop> stops = wholeWalk();
@@ -45,7 +45,7 @@ private slots:
     // Other texts have other lengths: nothing may be cut, nothing may push another aside.
     void traditionalChinese()
     {
-        const InLanguage spoken("ZH_COMPLEX.qm");
+        const InLanguage spoken(Language("ZH_COMPLEX.qm"));
         QStringList findings;
         Walk walk;
         for (const Stop &stop : wholeWalk()) {
