@@ -35,6 +35,7 @@ CharacterButton::CharacterButton(QWidget *parent)
     : KeyButton(KeyKind::Character, parent)
     , label(sharedLabel(parent))
 {
+    setFixedSize(characterKeySize);
     connect(this, &QPushButton::pressed, this, &CharacterButton::show_label);
     connect(this, &QPushButton::released, this, &CharacterButton::hide_label);
     connect(this, &QPushButton::clicked, this, &CharacterButton::send_value);

@@ -38,7 +38,7 @@ QPixmap picture(const char *name)
 
 QPixmap characterPlate()
 {
-    constexpr QRect cell(0, 0, 84, 60);
+    constexpr QRect cell(QPoint(), characterKeySize);
     QPixmap plate(cell.size());
     plate.fill(Qt::transparent);
     QPainter painter(&plate);

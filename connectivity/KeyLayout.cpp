@@ -2,7 +2,7 @@
 
 namespace {
 constexpr int firstRowTop = 176;
-constexpr int rowHeight = 60;
+constexpr int rowHeight = characterKeySize.height();
 constexpr const char *spaceText = QT_TRANSLATE_NOOP("KeyBorad", "空格");
 constexpr const char *doneText = QT_TRANSLATE_NOOP("KeyBorad", "完成");
 
@@ -80,7 +80,7 @@ int widthOf(KeyKind kind)
 {
     switch (kind) {
     case KeyKind::Character:
-        return 84;
+        return characterKeySize.width();
     case KeyKind::Shift:
     case KeyKind::ShiftOn:
     case KeyKind::Delete:

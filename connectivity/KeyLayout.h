@@ -2,10 +2,14 @@
 
 #include <QList>
 #include <QRect>
+#include <QSize>
 #include <QString>
 
 /// The three faces of the on-screen keyboard.
 enum class KeyPage { Lowercase, Uppercase, Symbol };
+
+/// Every key that types its own text is as large, in px.
+inline constexpr QSize characterKeySize(84, 60);
 
 /// What a key does, and with it how it looks.
 enum class KeyKind { Character, Shift, ShiftOn, Delete, Function, Blank, Enter };

@@ -73,6 +73,8 @@ private slots:
             }
             QCOMPARE(host.line->text() + host.anotherLine->text(), typed + "another line");
 
+            QCOMPARE(host.key(typed.first(1))->minimumSize(), QSize(84, 60));
+            QCOMPARE(host.key(typed.first(1))->maximumSize(), QSize(84, 60));
             // The keys of a row leave no gap, and the row stands in the middle.
             QMap<int, QRegion> rows;
             for (const KeyPlace &place : keyPlaces(page))
