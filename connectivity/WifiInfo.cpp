@@ -10,18 +10,17 @@ WifiInfo::WifiInfo(const QString &name, const QString &address, int level, Encry
 
 bool WifiInfo::isConnected() const
 {
-    return connectState == ConnectState::StateConnected ||
-           connectState == ConnectState::StateConnectedNoNetwork;
+    return connectState == StateConnected || connectState == StateConnectedNoNetwork;
 }
 
 bool WifiInfo::hasNetwork() const
 {
-    return connectState == ConnectState::StateConnected;
+    return connectState == StateConnected;
 }
 
 bool WifiInfo::isConnecting() const
 {
-    return connectState == ConnectState::StateConnecting;
+    return connectState == StateConnecting;
 }
 
 ConnectState WifiInfo::getConnectState() const

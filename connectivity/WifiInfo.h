@@ -4,6 +4,7 @@
 
 /// How a network is encrypted. Nothing tells the kinds apart yet.
 enum class EncryptType { None = 0 };
+using enum EncryptType;
 
 /// How far the connection to a network has come.
 enum class ConnectState {
@@ -13,6 +14,7 @@ enum class ConnectState {
     StateConnectedNoNetwork = 2,
     StateConnecting = 3,
 };
+using enum ConnectState;
 
 /// One network of a scan.
 class WifiInfo
@@ -37,5 +39,5 @@ public:
     EncryptType encryptType;
 
 private:
-    ConnectState connectState = ConnectState::StateDisconnected;
+    ConnectState connectState = StateDisconnected;
 };

@@ -104,8 +104,8 @@ void WifiListModel::toConnect(int row)
     }
     WifiInfo *chosen = wifiList.at(row);
     for (WifiInfo *info : std::as_const(wifiList))
-        info->setConnectState(ConnectState::StateDisconnected);
-    chosen->setConnectState(ConnectState::StateConnecting);
+        info->setConnectState(StateDisconnected);
+    chosen->setConnectState(StateConnecting);
     resetList();
 
     const QPointer<WifiListModel> self(this);
@@ -118,6 +118,6 @@ void WifiListModel::toConnect(int row)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (!self || !wifiList.contains(chosen) || !chosen->isConnecting())
         return;
-    chosen->setConnectState(ConnectState::StateConnected);
+    chosen->setConnectState(StateConnected);
     resetList();
 }

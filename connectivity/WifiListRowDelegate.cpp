@@ -64,9 +64,8 @@ void WifiListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
 {
     const QRect row = option.rect;
     const auto state = ConnectState(index.data(Qt::CheckStateRole).toInt());
-    const bool connected =
-        state == ConnectState::StateConnected || state == ConnectState::StateConnectedNoNetwork;
-    const bool connecting = state == ConnectState::StateConnecting;
+    const bool connected = state == StateConnected || state == StateConnectedNoNetwork;
+    const bool connecting = state == StateConnecting;
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     const Look &look = selected || connected || connecting ? highlighted : normal;
 
