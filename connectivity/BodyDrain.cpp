@@ -5,7 +5,7 @@
 #include <array>
 
 namespace {
-constexpr qint64 keptBytes = 1024;
+constexpr qint64 keptBytes = qint64(64) * 1024;
 // Room for what arrives within one turn of the event loop.
 constexpr qint64 bufferBytes = qint64(256) * 1024;
 } // namespace
@@ -20,9 +20,17 @@ BodyDrain::BodyDrain(QNetworkReply *source, qint64 largestBody)
     connect(reply, &QNetworkReply::readyRead, this, &BodyDrain::drain);
 }
 
-BodyDrain *BodyDrain::of(const QNetworkReply *reply)
+QByteArray BodyDrain::headOf(QNetworkReply *reply)
 {
-    return reply->findChild<BodyDrain *>(QString(), Qt::FindDirectChildrenOnly);
+    QByteArray head;
+    if (auto *drained = reply->findChild<BodyDrain *>(QString(), Qt::FindDirectChildrenOnly)) {
+        drained->drain();
+        head = drained->kept;
+    } else if (reply->isReadable()) {
+        head = reply->read(keptBytes);
+    }
+    const qsizetype zero = head.indexOf('\0');
+    return zero < 0 ? head : head.first(zero);
 }
 
 void BodyDrain::drain()
@@ -40,10 +48,4 @@ void BodyDrain::drain()
     // Aborting inside a signal of the reply's own reading is not safe, so it waits its turn.
     if (received > limit)
         QMetaObject::invokeMethod(reply, &QNetworkReply::abort, Qt::QueuedConnection);
-}
-
-QByteArray BodyDrain::head() const
-{
-    const qsizetype zero = kept.indexOf('\0');
-    return zero < 0 ? kept : kept.first(zero);
 }

@@ -15,16 +15,13 @@ public:
     /// Drains @p source, which owns the drain. A body of more than @p largestBody bytes aborts it.
     BodyDrain(QNetworkReply *source, qint64 largestBody);
 
-    /// The drain of @p reply, or null where it has none.
-    static BodyDrain *of(const QNetworkReply *reply);
-
-    /// Takes in what has arrived up to now. Called by itself on every arrival.
-    void drain();
-
-    /// The first bytes of the body up to its first zero byte, 1 KiB at the most.
-    QByteArray head() const;
+    /// The first bytes of the body of any @p reply, drained or not: up to its first zero byte, 64
+    /// KiB at the most.
+    static QByteArray headOf(QNetworkReply *reply);
 
 private:
+    void drain();
+
     QNetworkReply *reply;
     qint64 limit;
     qint64 received = 0;

@@ -4,7 +4,6 @@
 #include "connectivity/WifiListRowDelegate.h"
 #include "connectivity/WifiScan.h"
 #include "connectivity/passwordKeyboard.h"
-#include "pages/PagePattern.h"
 #include "pages/TouchList.h"
 #include "ui_SetWifiPage.h"
 
@@ -23,8 +22,7 @@ constexpr int mostChoicesUnderWay = 4;
 } // namespace
 
 SetWifiPage::SetWifiPage(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::SetWifiPage>())
+    : FormPage(parent)
     , model(new WifiListModel(this))
 {
     ui->setupUi(this);
@@ -32,6 +30,8 @@ SetWifiPage::SetWifiPage(QWidget *parent)
              ui->label_noWifi, ui->icon_noWifi, ui->info_noWifi, ui->listView, ui->scrollArea})
         part->hide();
     ui->listView->setModel(model);
+    connect(ui->page_passwordKeyboard, &PageHolder::signal_pageLeft, this,
+            &SetWifiPage::back_default_page);
 
     QFile scanFile(scan());
     const bool opened = scanFile.open(QIODevice::ReadOnly);
@@ -100,20 +100,22 @@ WifiInfo *SetWifiPage::keep(std::unique_ptr<WifiInfo> info)
 
 void SetWifiPage::on_button_back_clicked()
 {
-    left = true;
-    emit signal_backDefaultPage();
+    if (!ui)
+        return;
+    leave();
     killTimer(timerId);
     qDebug() << "Timer Killed";
 }
 
 void SetWifiPage::back_default_page()
 {
-    ui->stackedWidget->setCurrentWidget(ui->page_defalut);
+    if (ui)
+        ui->stackedWidget->setCurrentWidget(ui->page_defalut);
 }
 
 void SetWifiPage::onListWifiItemClicked(const QItemSelection &selected, const QItemSelection &)
 {
-    if (selected.isEmpty())
+    if (!ui || selected.isEmpty())
         return;
     qDebug() << "Click";
     if (choicesUnderWay == mostChoicesUnderWay) {
@@ -126,15 +128,15 @@ void SetWifiPage::onListWifiItemClicked(const QItemSelection &selected, const QI
     if (!self)
         return;
     --choicesUnderWay;
-    // A page left within the second has no widgets any more.
-    if (left)
-        return;
-    openPage<passwordKeyboard>(this, ui->stackedWidget, ui->page_passwordKeyboard,
-                               &SetWifiPage::back_default_page);
+    // Within the second the menu may have opened the next page and emptied this one.
+    if (ui)
+        ui->page_passwordKeyboard->open<passwordKeyboard>();
 }
 
 void SetWifiPage::timerEvent(QTimerEvent *)
 {
+    if (!ui)
+        return;
     qDebug() << "Timer";
     WifiInfo *info =
         keep(std::make_unique<WifiInfo>(QStringLiteral("A"), scannedAddress, 0, EncryptType::None));

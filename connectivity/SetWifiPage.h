@@ -1,9 +1,9 @@
 #pragma once
 
 #include "connectivity/WifiInfo.h"
+#include "pages/FormPage.h"
 
 #include <QList>
-#include <QWidget>
 #include <memory>
 #include <vector>
 
@@ -20,16 +20,13 @@ class SetWifiPage;
 /// A tap on a network shows it as connecting for a second, then as connected, and opens the page
 /// for its password. Each tap within that second nests one more choice, up to four. The connection
 /// is only shown, not made. Without a scan result the page says that there is no Wi-Fi. GUI thread.
-class SetWifiPage : public QWidget
+class SetWifiPage : public FormPage<Ui::SetWifiPage>
 {
     Q_OBJECT
 
 public:
     explicit SetWifiPage(QWidget *parent = nullptr);
     ~SetWifiPage() override;
-
-signals:
-    void signal_backDefaultPage();
 
 public slots:
     void on_button_back_clicked();
@@ -48,11 +45,9 @@ private:
     /// Owned by the page until it goes, as whatever is waiting for a connection still needs it.
     WifiInfo *keep(std::unique_ptr<WifiInfo> info);
 
-    std::unique_ptr<Ui::SetWifiPage> ui;
     WifiListModel *model;
     std::vector<std::unique_ptr<WifiInfo>> networks;
     QList<WifiInfo *> wifiList;
     int timerId = 0;
     int choicesUnderWay = 0;
-    bool left = false;
 };

@@ -1,30 +1,23 @@
 #include "connectivity/connectApp.h"
 
-#include "connectivity/TextLines.h"
 #include "connectivity/disconnectApp.h"
 #include "connectivity/tryConnectApp.h"
-#include "pages/PagePattern.h"
 #include "ui_connectApp.h"
 
 #include <QDebug>
 
-namespace {
-// Each line of the list stands beside its bullet.
-constexpr int bulletPitch = 44;
-} // namespace
-
 connectApp::connectApp(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::connectApp>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
-    ui->label_rightInfo->setText(linesApart(ui->label_rightInfo->text(), bulletPitch));
     for (QWidget *part : std::initializer_list<QWidget *>{
              ui->label_disonnected, ui->button_disconnectApp, ui->label_download,
              ui->button_connectApp, ui->label_symblol1, ui->label_symblol2, ui->label_symblol3,
              ui->label_symblol4, ui->label_rightInfo})
         part->hide();
     show_connect_disconnect();
+    for (PageHolder *holder : {ui->page_tryConnectApp, ui->page_disconnectApp})
+        connect(holder, &PageHolder::signal_pageLeft, this, &connectApp::on_button_back_clicked);
     connect(ui->button_appStore, &QPushButton::clicked, this,
             &connectApp::download_from_appleStore);
     connect(ui->button_googlePlay, &QPushButton::clicked, this,
@@ -35,10 +28,10 @@ connectApp::connectApp(QWidget *parent)
             &connectApp::jump_disconnectApp_page);
 }
 
-connectApp::~connectApp() = default;
-
 void connectApp::show_connect_disconnect()
 {
+    if (!ui)
+        return;
     for (QWidget *part : std::initializer_list<QWidget *>{
              ui->label_download, ui->button_connectApp, ui->label_symblol1, ui->label_symblol2,
              ui->label_symblol3, ui->label_symblol4, ui->label_rightInfo})
@@ -47,27 +40,29 @@ void connectApp::show_connect_disconnect()
 
 void connectApp::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void connectApp::download_from_appleStore()
 {
-    qDebug() << "Download Zell App from Apple Store ...";
+    if (ui)
+        qDebug() << "Download Zell App from Apple Store ...";
 }
 
 void connectApp::download_from_googlePlay()
 {
-    qDebug() << "Download Zell App from Google Play ...";
+    if (ui)
+        qDebug() << "Download Zell App from Google Play ...";
 }
 
 void connectApp::jump_tryConnectApp_page()
 {
-    openPage<tryConnectApp>(this, ui->stackedWidget, ui->page_tryConnectApp,
-                            &connectApp::on_button_back_clicked);
+    if (ui)
+        ui->page_tryConnectApp->open<tryConnectApp>();
 }
 
 void connectApp::jump_disconnectApp_page()
 {
-    openPage<disconnectApp>(this, ui->stackedWidget, ui->page_disconnectApp,
-                            &connectApp::on_button_back_clicked);
+    if (ui)
+        ui->page_disconnectApp->open<disconnectApp>();
 }

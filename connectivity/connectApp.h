@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 namespace Ui {
 class connectApp;
@@ -9,13 +8,12 @@ class connectApp;
 
 /// The page of the phone app: the codes of its two stores, and the way to the pairing number.
 /// Nothing pairs, so the paired view stays hidden. GUI thread.
-class connectApp : public QWidget
+class connectApp : public FormPage<Ui::connectApp>
 {
     Q_OBJECT
 
 public:
     explicit connectApp(QWidget *parent = nullptr);
-    ~connectApp() override;
 
     /// Shows the view of a device that is not paired.
     void show_connect_disconnect();
@@ -26,10 +24,4 @@ public slots:
     void download_from_googlePlay();
     void jump_tryConnectApp_page();
     void jump_disconnectApp_page();
-
-signals:
-    void signal_backDefaultPage();
-
-private:
-    std::unique_ptr<Ui::connectApp> ui;
 };

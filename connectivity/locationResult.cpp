@@ -1,7 +1,7 @@
 #include "connectivity/locationResult.h"
 
 #include "connectivity/LineCaret.h"
-#include "pages/TouchList.h"
+#include "pages/DragScroll.h"
 #include "ui_locationResult.h"
 
 #include <QScrollBar>
@@ -21,8 +21,7 @@ void mirror(QScrollBar *source, QScrollBar *thumb)
 } // namespace
 
 locationResult::locationResult(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::locationResult>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     caret = new LineCaret(ui->lineEdit_location);
@@ -32,16 +31,25 @@ locationResult::locationResult(QWidget *parent)
     ui->info_noResult->hide();
     ui->scrollBar_result->setAttribute(Qt::WA_TransparentForMouseEvents);
     mirror(ui->listWidget->verticalScrollBar(), ui->scrollBar_result);
-    new TouchList(ui->listWidget);
+    scroll = new DragScroll(ui->listWidget, this);
+    ui->listWidget->viewport()->installEventFilter(this);
     show_locate_result();
     connect(ui->button_deleteLocation, &QPushButton::clicked, this,
             &locationResult::delete_searchLocation);
 }
 
-locationResult::~locationResult() = default;
+bool locationResult::eventFilter(QObject *watched, QEvent *event)
+{
+    // What the finger does ends here: the list would mark places and scroll by itself.
+    if (ui && watched == ui->listWidget->viewport() && scroll->follow(watched, event))
+        return true;
+    return FormPage::eventFilter(watched, event);
+}
 
 void locationResult::show_locate_result()
 {
+    if (!ui)
+        return;
     ui->listWidget->show();
     ui->scrollBar_result->show();
     ui->label_noResult->hide();
@@ -57,11 +65,13 @@ void locationResult::show_locate_result()
 
 void locationResult::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void locationResult::delete_searchLocation()
 {
+    if (!ui)
+        return;
     ui->lineEdit_location->clear();
     caret->show();
     ui->listWidget->hide();

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
+class DragScroll;
 class LineCaret;
 
 namespace Ui {
@@ -11,13 +11,15 @@ class locationResult;
 
 /// The places that were found: a fixed sample, scrolled by dragging, or the view of no result once
 /// the search is cleared. GUI thread.
-class locationResult : public QWidget
+class locationResult : public FormPage<Ui::locationResult>
 {
     Q_OBJECT
 
 public:
     explicit locationResult(QWidget *parent = nullptr);
-    ~locationResult() override;
+
+    /// Follows the finger on the list.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// Shows the list and appends the sample to it.
     void show_locate_result();
@@ -26,10 +28,7 @@ public slots:
     void on_button_back_clicked();
     void delete_searchLocation();
 
-signals:
-    void signal_backDefaultPage();
-
 private:
-    std::unique_ptr<Ui::locationResult> ui;
     LineCaret *caret;
+    DragScroll *scroll;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 class KeyBorad;
 
@@ -13,16 +12,14 @@ class passwordKeyboard;
 ///
 /// The password is neither checked nor kept yet: being done leads back to the list of networks, as
 /// the back arrow does. GUI thread.
-class passwordKeyboard : public QWidget
+class passwordKeyboard : public FormPage<Ui::passwordKeyboard>
 {
     Q_OBJECT
 
 public:
     explicit passwordKeyboard(QWidget *parent);
-    ~passwordKeyboard() override;
 
 signals:
-    void signal_backDefaultPage();
     /// Never emitted; meant to hand the password on once there is a check.
     void signal_commit(const QString &strValue);
 
@@ -33,6 +30,5 @@ public slots:
     void jump_wifiConnectResult_page();
 
 private:
-    std::unique_ptr<Ui::passwordKeyboard> ui;
     KeyBorad *keyboard;
 };

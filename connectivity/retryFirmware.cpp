@@ -8,8 +8,7 @@ constexpr int stalledPercent = 83;
 } // namespace
 
 retryFirmware::retryFirmware(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::retryFirmware>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     ui->progressBar_fail->setValue(stalledPercent);
@@ -19,14 +18,13 @@ retryFirmware::retryFirmware(QWidget *parent)
     connect(ui->button_retry, &QPushButton::clicked, this, &retryFirmware::on_button_retry_clicked);
 }
 
-retryFirmware::~retryFirmware() = default;
-
 void retryFirmware::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void retryFirmware::on_button_retry_clicked()
 {
-    emit signal_retryDownloadPage();
+    if (ui)
+        emit signal_retryDownloadPage();
 }

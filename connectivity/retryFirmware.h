@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 namespace Ui {
 class retryFirmware;
@@ -10,22 +9,17 @@ class retryFirmware;
 /// The page of a failed download. GUI thread.
 ///
 /// Both buttons run their slot twice per click, so every signal goes out twice; receivers bear it.
-class retryFirmware : public QWidget
+class retryFirmware : public FormPage<Ui::retryFirmware>
 {
     Q_OBJECT
 
 public:
     explicit retryFirmware(QWidget *parent = nullptr);
-    ~retryFirmware() override;
 
 public slots:
     void on_button_back_clicked();
     void on_button_retry_clicked();
 
 signals:
-    void signal_backDefaultPage();
     void signal_retryDownloadPage();
-
-private:
-    std::unique_ptr<Ui::retryFirmware> ui;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 class KeyBorad;
 
@@ -11,13 +10,12 @@ class searchLocation;
 
 /// Types the name of a place on the on-screen keyboard; its done key opens the list of results.
 /// The typed text is not searched for. GUI thread.
-class searchLocation : public QWidget
+class searchLocation : public FormPage<Ui::searchLocation>
 {
     Q_OBJECT
 
 public:
     explicit searchLocation(QWidget *parent = nullptr);
-    ~searchLocation() override;
 
 public slots:
     void on_button_back_clicked();
@@ -26,11 +24,9 @@ public slots:
     void delete_searchLocation();
 
 signals:
-    void signal_backDefaultPage();
     /// Never sent; for the search that will take the typed text.
     void signal_commit(const QString &strLocation);
 
 private:
-    std::unique_ptr<Ui::searchLocation> ui;
     KeyBorad *keyBorad;
 };

@@ -1,34 +1,33 @@
 #include "connectivity/setLocation.h"
 
 #include "connectivity/searchLocation.h"
-#include "pages/PagePattern.h"
 #include "ui_setLocation.h"
 
 #include <QDebug>
 
 setLocation::setLocation(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::setLocation>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
+    connect(ui->page_searchLocation, &PageHolder::signal_pageLeft, this,
+            &setLocation::on_button_back_clicked);
     connect(ui->button_search, &QPushButton::clicked, this, &setLocation::jump_searchLocation_page);
     connect(ui->button_ok, &QPushButton::clicked, this, &setLocation::set_network_locate);
 }
 
-setLocation::~setLocation() = default;
-
 void setLocation::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void setLocation::jump_searchLocation_page()
 {
-    openPage<searchLocation>(this, ui->stackedWidget, ui->page_searchLocation,
-                             &setLocation::on_button_back_clicked);
+    if (ui)
+        ui->page_searchLocation->open<searchLocation>();
 }
 
 void setLocation::set_network_locate()
 {
-    qDebug() << "set network locate";
+    if (ui)
+        qDebug() << "set network locate";
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 namespace Ui {
 class tryConnectApp;
@@ -10,13 +9,12 @@ class tryConnectApp;
 /// The page of the four-digit number that the owner types into the phone. GUI thread.
 ///
 /// One click on its back button sends signal_backDefaultPage() twice; receivers bear it.
-class tryConnectApp : public QWidget
+class tryConnectApp : public FormPage<Ui::tryConnectApp>
 {
     Q_OBJECT
 
 public:
     explicit tryConnectApp(QWidget *parent = nullptr);
-    ~tryConnectApp() override;
 
     /// Draws the number anew and shows it: four digits of 0 to 9, each on its own, from the C
     /// library's generator seeded with the current second.
@@ -27,10 +25,4 @@ public:
 
 public slots:
     void on_button_back_clicked();
-
-signals:
-    void signal_backDefaultPage();
-
-private:
-    std::unique_ptr<Ui::tryConnectApp> ui;
 };

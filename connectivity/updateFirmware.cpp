@@ -1,22 +1,17 @@
 #include "connectivity/updateFirmware.h"
 
 #include "connectivity/BodyDrain.h"
+#include "connectivity/PackageDownload.h"
 #include "connectivity/installFirmware.h"
 #include "connectivity/retryFirmware.h"
-#include "pages/PagePattern.h"
 #include "ui_updateFirmware.h"
 
 #include <QDebug>
-#include <QFile>
-#include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QTimer>
 #include <algorithm>
 #include <limits>
 
 namespace {
-constexpr int redirectsFollowed = 5;
-
 // No figure of a bad server may wrap round into the range of the bar, which ignores all others.
 int barValue(qint64 percent)
 {
@@ -26,8 +21,7 @@ int barValue(qint64 percent)
 } // namespace
 
 updateFirmware::updateFirmware(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::updateFirmware>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     ui->button_checkUpdate->show();
@@ -37,12 +31,10 @@ updateFirmware::updateFirmware(QWidget *parent)
     ui->label_process->hide();
     connect(ui->button_checkUpdate, &QPushButton::clicked, this,
             &updateFirmware::check_versionUpdate);
-    request.setMaximumRedirectsAllowed(redirectsFollowed);
-    // A packed answer would be unpacked in memory, and its progress has no total.
-    request.setRawHeader("Accept-Encoding", "identity");
+    for (PageHolder *holder : {ui->page_retryFirmware, ui->page_installFirmware})
+        connect(holder, &PageHolder::signal_pageLeft, this,
+                &updateFirmware::on_button_back_clicked);
 }
-
-updateFirmware::~updateFirmware() = default;
 
 void updateFirmware::setLimits(const DownloadLimits &newLimits)
 {
@@ -51,17 +43,20 @@ void updateFirmware::setLimits(const DownloadLimits &newLimits)
 
 void updateFirmware::on_button_back_clicked()
 {
-    // The page is left for good. Whatever still runs, after a report of 0 bytes, ends with it.
-    for (auto *running : findChildren<QNetworkAccessManager *>()) {
-        running->disconnect(this);
-        delete running;
-    }
-    qDeleteAll(findChildren<QFile *>());
-    emit signal_backDefaultPage();
+    beforeEmptying();
+    leave();
+}
+
+void updateFirmware::beforeEmptying()
+{
+    // Whatever still runs, after a report of 0 bytes, ends with the page.
+    qDeleteAll(findChildren<PackageDownload *>());
 }
 
 void updateFirmware::check_versionUpdate()
 {
+    if (!ui)
+        return;
     qDebug() << "Need to update version! ";
     ui->button_checkUpdate->hide();
     ui->label_newVersion->show();
@@ -71,6 +66,8 @@ void updateFirmware::check_versionUpdate()
 
 void updateFirmware::update_newVersion()
 {
+    if (!ui)
+        return;
     qDebug() << "Update new version! ";
     ui->button_back->hide();
     ui->button_update->hide();
@@ -84,26 +81,18 @@ void updateFirmware::update_newVersion()
 
 void updateFirmware::download_newVersion()
 {
+    if (!ui)
+        return;
     qDebug() << "Download new version...";
-    const QUrl address = firmwareAddress();
-    fileInfo.setFile(address.path());
-    // Opened only to make the empty target: a folder that cannot be written stops no download.
-    targetFile = new QFile(fileInfo.fileName(), this);
-    static_cast<void>(targetFile->open(QIODevice::WriteOnly));
-
-    request.setUrl(address);
-    request.setTransferTimeout(int(limits.silence.count()));
-    manager = new QNetworkAccessManager(this);
-    connect(manager, &QNetworkAccessManager::finished, this, &updateFirmware::finish_reply);
-    runningReply = manager->get(request);
-    connect(runningReply, &QNetworkReply::downloadProgress, this,
-            &updateFirmware::on_downloadProgress);
-    new BodyDrain(runningReply, limits.size);
-    QTimer::singleShot(limits.whole, runningReply, &QNetworkReply::abort);
+    auto *download = new PackageDownload(firmwareAddress(), limits, this);
+    connect(download, &PackageDownload::finished, this, &updateFirmware::finish_reply);
+    connect(download, &PackageDownload::progressed, this, &updateFirmware::on_downloadProgress);
 }
 
 void updateFirmware::on_downloadProgress(qint64 iBytesReceive, qint64 iBytesTotal)
 {
+    if (!ui)
+        return;
     qDebug() << "on_downloadProgress...";
     qDebug() << "iBytesReceive is" << iBytesReceive;
     if (iBytesReceive == 0) {
@@ -119,14 +108,12 @@ void updateFirmware::on_downloadProgress(qint64 iBytesReceive, qint64 iBytesTota
 
 void updateFirmware::finish_reply(QNetworkReply *reply)
 {
+    if (!ui || !reply)
+        return;
     qDebug() << "finish_reply...";
     qDebug() << "statusCode is "
              << reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    QString result;
-    if (BodyDrain *body = BodyDrain::of(reply)) {
-        body->drain();
-        result = QString::fromLatin1(body->head());
-    }
+    const QString result = QString::fromLatin1(BodyDrain::headOf(reply));
     qDebug() << "result is " << result;
     if (reply->error() != QNetworkReply::NoError) {
         qDebug() << "Error comes...";
@@ -140,20 +127,19 @@ void updateFirmware::finish_reply(QNetworkReply *reply)
 
 void updateFirmware::jump_retryFirmware_page()
 {
-    auto *page = openPage<retryFirmware>(this, ui->stackedWidget, ui->page_retryFirmware,
-                                         &updateFirmware::on_button_back_clicked);
-    connect(page, &retryFirmware::signal_retryDownloadPage, this,
-            &updateFirmware::back_download_page);
+    connect(ui->page_retryFirmware->open<retryFirmware>(), &retryFirmware::signal_retryDownloadPage,
+            this, &updateFirmware::back_download_page);
 }
 
 void updateFirmware::jump_installFirmware_page()
 {
-    openPage<installFirmware>(this, ui->stackedWidget, ui->page_installFirmware,
-                              &updateFirmware::on_button_back_clicked);
+    ui->page_installFirmware->open<installFirmware>();
 }
 
 void updateFirmware::back_download_page()
 {
+    if (!ui)
+        return;
     ui->stackedWidget->setCurrentWidget(ui->page_firmware);
     ui->button_back->show();
 }

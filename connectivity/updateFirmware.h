@@ -1,14 +1,8 @@
 #pragma once
 
 #include "connectivity/FirmwareDownload.h"
+#include "pages/FormPage.h"
 
-#include <QFileInfo>
-#include <QNetworkRequest>
-#include <QWidget>
-#include <memory>
-
-class QFile;
-class QNetworkAccessManager;
 class QNetworkReply;
 
 namespace Ui {
@@ -19,13 +13,12 @@ class updateFirmware;
 /// the install page. The package is neither kept nor installed. GUI thread.
 ///
 /// While a download runs the page cannot be left; DownloadLimits bounds how long that may be.
-class updateFirmware : public QWidget
+class updateFirmware : public FormPage<Ui::updateFirmware>
 {
     Q_OBJECT
 
 public:
     explicit updateFirmware(QWidget *parent = nullptr);
-    ~updateFirmware() override;
 
     /// Holds for downloads started from now on.
     void setLimits(const DownloadLimits &newLimits);
@@ -38,22 +31,17 @@ public slots:
     /// Shows the download page as it was left, with its way back.
     void back_download_page();
     void download_newVersion();
+    /// Ends on the page that @p reply deserves and deletes it. Any reply will do.
     void finish_reply(QNetworkReply *reply);
     /// A report of 0 bytes counts as a failure. Bytes; a total of -1 is not known.
     void on_downloadProgress(qint64 iBytesReceive, qint64 iBytesTotal);
 
-signals:
-    void signal_backDefaultPage();
+protected:
+    void beforeEmptying() override;
 
 private:
     void jump_retryFirmware_page();
     void jump_installFirmware_page();
 
-    std::unique_ptr<Ui::updateFirmware> ui;
-    QFile *targetFile = nullptr;
-    QFileInfo fileInfo;
-    QNetworkAccessManager *manager = nullptr;
-    QNetworkRequest request;
-    QNetworkReply *runningReply = nullptr;
     DownloadLimits limits;
 };

@@ -5,8 +5,7 @@
 #include <QDebug>
 
 wifiConnectResult::wifiConnectResult(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::wifiConnectResult>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     for (QWidget *outcome : std::initializer_list<QWidget *>{
@@ -22,8 +21,6 @@ wifiConnectResult::wifiConnectResult(QWidget *parent)
             &wifiConnectResult::retry_wifi_connect);
 }
 
-wifiConnectResult::~wifiConnectResult() = default;
-
 void wifiConnectResult::show_connect_result()
 {
     ui->label_success->show();
@@ -35,10 +32,12 @@ void wifiConnectResult::on_button_back_clicked() {}
 
 void wifiConnectResult::forget_this_wifi()
 {
-    qDebug() << "forget this wifi...";
+    if (ui)
+        qDebug() << "forget this wifi...";
 }
 
 void wifiConnectResult::retry_wifi_connect()
 {
-    qDebug() << "retry wifi connect...";
+    if (ui)
+        qDebug() << "retry wifi connect...";
 }

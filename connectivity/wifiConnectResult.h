@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 namespace Ui {
 class wifiConnectResult;
@@ -11,13 +10,12 @@ class wifiConnectResult;
 /// try again.
 ///
 /// Until a connection is really made it always shows success, and the offers are only logged.
-class wifiConnectResult : public QWidget
+class wifiConnectResult : public FormPage<Ui::wifiConnectResult>
 {
     Q_OBJECT
 
 public:
     explicit wifiConnectResult(QWidget *parent);
-    ~wifiConnectResult() override;
 
 public slots:
     /// Does nothing: there is no page to go back to yet.
@@ -27,6 +25,4 @@ public slots:
 
 private:
     void show_connect_result();
-
-    std::unique_ptr<Ui::wifiConnectResult> ui;
 };

@@ -1,53 +1,53 @@
 #include "pages/DragScroll.h"
 
+#include <QAbstractScrollArea>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <chrono>
 
 namespace {
-constexpr std::chrono::milliseconds glideTime{500};
+using namespace std::chrono_literals;
 
-// On the screen: the coordinates of a touched widget that scrolls away would follow the finger.
-int fingerY(QEvent *event)
+constexpr auto glideTime = 500ms;
+
+// In the viewport, which stands still: the coordinates of a content that scrolls would follow the
+// finger.
+int fingerY(QAbstractScrollArea *area, QObject *touched, QEvent *event)
 {
-    return static_cast<QMouseEvent *>(event)->globalPosition().toPoint().y();
+    const QPoint position = static_cast<QMouseEvent *>(event)->position().toPoint();
+    return static_cast<QWidget *>(touched)->mapTo(area->viewport(), position).y();
 }
 } // namespace
 
-DragScroll::DragScroll(QWidget *touched, QScrollBar *moved, QObject *parent)
+DragScroll::DragScroll(QAbstractScrollArea *scrolled, QObject *parent)
     : QObject(parent)
-    , surface(touched)
-    , scrollBar(moved)
-    , animation(moved, "value")
+    , area(scrolled)
+    , animation(scrolled->verticalScrollBar(), "value")
 {
     animation.setDuration(int(glideTime.count()));
     animation.setEasingCurve(QEasingCurve::OutSine);
-    surface->installEventFilter(this);
 }
 
-bool DragScroll::eventFilter(QObject *watched, QEvent *event)
+bool DragScroll::follow(QObject *touched, QEvent *event)
 {
-    if (watched != surface)
-        return QObject::eventFilter(watched, event);
-
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        pressY = fingerY(event);
-        break;
+        pressY = fingerY(area, touched, event);
+        return true;
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
-        glide(fingerY(event));
-        break;
+        glide(fingerY(area, touched, event));
+        return true;
     default:
-        break;
+        return false;
     }
-    return false;
 }
 
 void DragScroll::glide(int y)
 {
+    const int value = area->verticalScrollBar()->value();
     animation.stop();
-    animation.setStartValue(scrollBar->value());
-    animation.setEndValue(scrollBar->value() - y + pressY);
+    animation.setStartValue(value);
+    animation.setEndValue(value - y + pressY);
     animation.start();
 }

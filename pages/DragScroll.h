@@ -1,31 +1,30 @@
 #pragma once
 
-#include <QObject>
 #include <QPropertyAnimation>
 
-class QScrollBar;
+class QAbstractScrollArea;
 
 /// Scrolls a list by dragging a finger over it, with a glide of 500 ms behind the finger.
 ///
 /// Every move scrolls by the whole distance from the point of the press, so that the list gains
 /// speed the longer the finger stays away from where it went down: the feel of all lists of this
-/// device. The watched widget may be the viewport or the content that scrolls inside it, and still
-/// gets every event. GUI thread.
+/// device. GUI thread.
 class DragScroll : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Watches the mouse on @p touched and moves @p moved. Owned by @p parent.
-    DragScroll(QWidget *touched, QScrollBar *moved, QObject *parent);
+    /// Moves the vertical scroll bar of @p scrolled. Owned by @p parent.
+    DragScroll(QAbstractScrollArea *scrolled, QObject *parent);
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    /// For the event filter of whoever watches @p touched, the viewport or the content that scrolls
+    /// in it. Whether @p event was a press, a move or a release; nothing else is followed.
+    bool follow(QObject *touched, QEvent *event);
 
 private:
     void glide(int y);
 
-    QObject *surface;
-    QScrollBar *scrollBar;
+    QAbstractScrollArea *area;
     QPropertyAnimation animation;
     int pressY = 0;
 };

@@ -4,7 +4,6 @@
 
 #include <QAbstractItemView>
 #include <QMouseEvent>
-#include <QScrollBar>
 #include <utility>
 
 namespace {
@@ -15,36 +14,27 @@ constexpr int tapSlack = 24;
 TouchList::TouchList(QAbstractItemView *listView)
     : QObject(listView)
     , view(listView)
+    , scroll(new DragScroll(listView, this))
 {
     view->viewport()->installEventFilter(this);
-    // Later filters come first: the drag sees the events before they end here.
-    new DragScroll(view->viewport(), view->verticalScrollBar(), this);
 }
 
 bool TouchList::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick: {
-        const auto *mouse = static_cast<QMouseEvent *>(event);
-        pressPosition = mouse->globalPosition().toPoint();
-        pressed = view->indexAt(mouse->position().toPoint());
-        return true;
+    if (!scroll->follow(watched, event))
+        return QObject::eventFilter(watched, event);
+
+    const QPoint position = static_cast<QMouseEvent *>(event)->position().toPoint();
+    if (event->type() == QEvent::MouseButtonPress) {
+        pressPosition = position;
+        pressed = view->indexAt(position);
+    } else if ((position - pressPosition).manhattanLength() > tapSlack) {
+        pressed = QPersistentModelIndex();
     }
-    case QEvent::MouseMove: {
-        const QPoint moved =
-            static_cast<QMouseEvent *>(event)->globalPosition().toPoint() - pressPosition;
-        if (moved.manhattanLength() > tapSlack)
-            pressed = QPersistentModelIndex();
-        return true;
-    }
-    case QEvent::MouseButtonRelease: {
+    if (event->type() == QEvent::MouseButtonRelease) {
         const QModelIndex row = std::exchange(pressed, QPersistentModelIndex());
         if (row.isValid())
             view->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect);
-        return true;
     }
-    default:
-        return QObject::eventFilter(watched, event);
-    }
+    return true;
 }

@@ -4,14 +4,15 @@
 #include <QPersistentModelIndex>
 #include <QPoint>
 
+class DragScroll;
 class QAbstractItemView;
 
 /// Makes a list follow the finger: a drag scrolls it, a tap selects the row under it.
 ///
 /// The view itself selects on press, so that every drag would choose the row it happens to begin
 /// on; here the choice falls when the finger is lifted near the place where it went down. The view
-/// gets no mouse events of its own any more. The selection is made within the release, and its
-/// receivers may delete the view. Owned by the view. GUI thread.
+/// gets none of these events any more; a double tap goes on to it. The selection is made within the
+/// release, and its receivers may delete the view. Owned by the view. GUI thread.
 class TouchList : public QObject
 {
     Q_OBJECT
@@ -24,6 +25,7 @@ public:
 
 private:
     QAbstractItemView *view;
+    DragScroll *scroll;
     QPoint pressPosition;
     QPersistentModelIndex pressed;
 };

@@ -4,19 +4,10 @@
 
 #include <QTime>
 
-DateTimePage *DateTimePage::instance = nullptr;
-
 DateTimePage::DateTimePage(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::DateTimePage>())
+    : SinglePage(parent)
 {
     ui->setupUi(this);
-}
-
-DateTimePage::~DateTimePage()
-{
-    if (instance == this)
-        instance = nullptr;
 }
 
 void DateTimePage::Set24Hour(bool use)
@@ -49,5 +40,5 @@ void DateTimePage::on_button_back_clicked()
 {
     ui->widget_date->hide();
     timeSpinners().hide();
-    emit signal_backDefaultPage();
+    leave();
 }

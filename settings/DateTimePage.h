@@ -1,9 +1,7 @@
 #pragma once
 
+#include "pages/FormPage.h"
 #include "settings/TimeSpinners.h"
-
-#include <QWidget>
-#include <memory>
 
 namespace Ui {
 class DateTimePage;
@@ -11,18 +9,13 @@ class DateTimePage;
 
 /// Wheels for a date and a time of day. What they are turned to leaves the page nowhere.
 ///
-/// The page exists once: it is built on first use and moves to the holder of whoever opens it.
-/// Before every showing call Set24Hour() and list_init(). GUI thread.
-class DateTimePage : public QWidget
+/// The page exists once. Before every showing call Set24Hour() and list_init(). GUI thread.
+class DateTimePage : public SinglePage<DateTimePage, Ui::DateTimePage>
 {
     Q_OBJECT
 
 public:
-    /// The one page, null before its first use.
-    static DateTimePage *instance;
-
     explicit DateTimePage(QWidget *parent = nullptr);
-    ~DateTimePage() override;
 
     /// Chooses between an hour wheel of 24 and one of 12 hours beside a wheel for the half of the
     /// day. Takes effect with the next list_init().
@@ -30,16 +23,12 @@ public:
     /// Loads the wheels afresh, turned to this moment.
     void list_init();
 
-signals:
-    void signal_backDefaultPage();
-
-private slots:
+public slots:
     void on_button_back_clicked();
 
 private:
     void placeSpinners();
     TimeSpinners timeSpinners() const;
 
-    std::unique_ptr<Ui::DateTimePage> ui;
     bool is24Hour = true;
 };

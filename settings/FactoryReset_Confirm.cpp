@@ -5,8 +5,7 @@
 #include <QDebug>
 
 FactoryReset_Confirm::FactoryReset_Confirm(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::FactoryReset_Confirm>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     connect(ui->button_cancel, &QPushButton::clicked, this,
@@ -15,14 +14,13 @@ FactoryReset_Confirm::FactoryReset_Confirm(QWidget *parent)
             &FactoryReset_Confirm::confirm_factoryReset);
 }
 
-FactoryReset_Confirm::~FactoryReset_Confirm() = default;
-
 void FactoryReset_Confirm::cancel_factoryReset()
 {
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void FactoryReset_Confirm::confirm_factoryReset()
 {
-    qDebug("start factory reset...");
+    if (ui)
+        qDebug("start factory reset...");
 }

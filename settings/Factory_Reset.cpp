@@ -1,30 +1,29 @@
 #include "settings/Factory_Reset.h"
 
-#include "pages/PagePattern.h"
 #include "settings/FactoryReset_Confirm.h"
 #include "ui_Factory_Reset.h"
 
 Factory_Reset::Factory_Reset(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::Factory_Reset>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
+    connect(ui->page_confirmResetFactory, &PageHolder::signal_pageLeft, this,
+            &Factory_Reset::back_default_page);
 }
-
-Factory_Reset::~Factory_Reset() = default;
 
 void Factory_Reset::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void Factory_Reset::on_button_confirm_clicked()
 {
-    openPage<FactoryReset_Confirm>(this, ui->stackedWidget, ui->page_confirmResetFactory,
-                                   &Factory_Reset::back_default_page);
+    if (ui)
+        ui->page_confirmResetFactory->open<FactoryReset_Confirm>();
 }
 
 void Factory_Reset::back_default_page()
 {
-    ui->stackedWidget->setCurrentWidget(ui->page_default);
+    if (ui)
+        ui->stackedWidget->setCurrentWidget(ui->page_default);
 }

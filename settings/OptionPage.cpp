@@ -5,7 +5,7 @@
 #include "connectivity/setLocation.h"
 #include "connectivity/updateFirmware.h"
 #include "pages/DragScroll.h"
-#include "pages/PagePattern.h"
+#include "pages/Ground.h"
 #include "settings/Factory_Reset.h"
 #include "settings/SetTimePage.h"
 #include "settings/adjustLight.h"
@@ -14,7 +14,6 @@
 #include "ui_OptionPage.h"
 
 #include <QDebug>
-#include <QScrollBar>
 
 namespace {
 const char *const unitInUse = "QLabel{font-size:24px;color:#00E5FF;}";
@@ -29,10 +28,18 @@ OptionPage::OptionPage(QWidget *parent)
     fillGround(this);
     fillGround(ui->scrollAreaWidgetContents);
     setup_signalWithSlot();
-    new DragScroll(ui->scrollAreaWidgetContents, ui->scrollArea->verticalScrollBar(), this);
+    scroll = new DragScroll(ui->scrollArea, this);
+    ui->scrollAreaWidgetContents->installEventFilter(this);
 }
 
 OptionPage::~OptionPage() = default;
+
+bool OptionPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ui->scrollAreaWidgetContents)
+        scroll->follow(watched, event);
+    return QWidget::eventFilter(watched, event);
+}
 
 void OptionPage::setup_signalWithSlot()
 {
@@ -51,16 +58,13 @@ void OptionPage::setup_signalWithSlot()
     for (const auto &[tile, jump] : jumps)
         connect(tile, &OptionFrame::clicked, this, jump);
 
+    for (const PageHolder *holder : findChildren<PageHolder *>())
+        connect(holder, &PageHolder::signal_pageLeft, this, &OptionPage::back_default_page);
+
     ui->checkBox_tempture->setChecked(true);
     ui->label_C->setStyleSheet(unitInUse);
     ui->label_F->setStyleSheet(otherUnit);
     connect(ui->checkBox_tempture, &QCheckBox::clicked, this, &OptionPage::option_setTempture);
-}
-
-template <class Page>
-void OptionPage::open(QWidget *holder)
-{
-    openPage<Page>(this, ui->stackedWidget, holder, &OptionPage::back_default_page);
 }
 
 bool OptionPage::is_allowed_slide()
@@ -72,47 +76,47 @@ bool OptionPage::is_allowed_slide()
 
 void OptionPage::jump_setWifi_page()
 {
-    open<SetWifiPage>(ui->page_setWifi);
+    ui->page_setWifi->open<SetWifiPage>();
 }
 
 void OptionPage::jump_setTime_page()
 {
-    open<SetTimePage>(ui->page_setTime);
+    ui->page_setTime->open<SetTimePage>();
 }
 
 void OptionPage::jump_setNightPatternSlt()
 {
-    open<nightModePage>(ui->page_nightMode);
+    ui->page_nightMode->open<nightModePage>();
 }
 
 void OptionPage::jump_adjustLight_page()
 {
-    open<adjustLight>(ui->page_adjustLight);
+    ui->page_adjustLight->open<adjustLight>();
 }
 
 void OptionPage::jump_setLanguage_page()
 {
-    open<setLanguagePage>(ui->page_setLanguage);
+    ui->page_setLanguage->open<setLanguagePage>();
 }
 
 void OptionPage::jump_setLocation_page()
 {
-    open<setLocation>(ui->page_setLocation);
+    ui->page_setLocation->open<setLocation>();
 }
 
 void OptionPage::jump_connectApp_page()
 {
-    open<connectApp>(ui->page_connectApp);
+    ui->page_connectApp->open<connectApp>();
 }
 
 void OptionPage::jump_updateFirmware_page()
 {
-    open<updateFirmware>(ui->page_updateFirmware);
+    ui->page_updateFirmware->open<updateFirmware>();
 }
 
 void OptionPage::jump_resetFactory_page()
 {
-    open<Factory_Reset>(ui->page_resetFactory);
+    ui->page_resetFactory->open<Factory_Reset>();
 }
 
 void OptionPage::back_default_page()

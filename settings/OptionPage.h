@@ -3,6 +3,8 @@
 #include <QWidget>
 #include <memory>
 
+class DragScroll;
+
 namespace Ui {
 class OptionPage;
 }
@@ -17,6 +19,9 @@ public:
     explicit OptionPage(QWidget *parent = nullptr);
     ~OptionPage() override;
 
+    /// Follows the finger on the menu.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     /// The user leaves the settings area.
     void signal_back_lastPage();
@@ -24,8 +29,6 @@ signals:
 public slots:
     /// Whether the menu itself is showing, and not the page of a setting.
     bool is_allowed_slide();
-
-private slots:
     void jump_setWifi_page();
     void jump_setTime_page();
     void jump_setNightPatternSlt();
@@ -41,8 +44,7 @@ private slots:
 
 private:
     void setup_signalWithSlot();
-    template <class Page>
-    void open(QWidget *holder);
 
     std::unique_ptr<Ui::OptionPage> ui;
+    DragScroll *scroll;
 };

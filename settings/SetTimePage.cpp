@@ -1,6 +1,5 @@
 #include "settings/SetTimePage.h"
 
-#include "pages/PagePattern.h"
 #include "pages/SwitchCaptions.h"
 #include "settings/DateTimePage.h"
 #include "settings/TimeSpinners.h"
@@ -17,20 +16,21 @@ const std::array<QString, 2> displayFormats = {QStringLiteral("yyyy-MM-dd HH:mm"
 } // namespace
 
 SetTimePage::SetTimePage(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::SetTimePage>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     captionSwitch(ui->checkBox_24Hours, ui->button_close, ui->button_on);
     captionSwitch(ui->checkBox_AutoGetTime, ui->button_close_2, ui->button_on_2);
+    for (PageHolder *holder : {ui->page_dateTime, ui->page_timeZone})
+        connect(holder, &PageHolder::signal_pageLeft, this, &SetTimePage::back_default_page);
     readySpinnersSoon();
 }
 
-SetTimePage::~SetTimePage() = default;
-
 void SetTimePage::paintEvent(QPaintEvent *event)
 {
-    QWidget::paintEvent(event);
+    FormPage::paintEvent(event);
+    if (!ui)
+        return;
     const QString &format = displayFormats[ui->checkBox_24Hours->isChecked() ? 0 : 1];
     // A new text paints this page once more; the same text again does not.
     ui->button_currentDateTime->setText(QDateTime::currentDateTime().toString(format));
@@ -38,26 +38,27 @@ void SetTimePage::paintEvent(QPaintEvent *event)
 
 void SetTimePage::on_button_dateTime_clicked()
 {
-    auto *page = singlePage<DateTimePage>(ui->page_dateTime);
+    if (!ui)
+        return;
+    auto *page = ui->page_dateTime->bring<DateTimePage>();
     page->Set24Hour(ui->checkBox_24Hours->isChecked());
     page->list_init();
-    showPage(page, this, ui->stackedWidget, ui->page_dateTime, &SetTimePage::back_default_page);
+    ui->page_dateTime->present(page);
 }
 
 void SetTimePage::on_button_timeZone_clicked()
 {
-    showPage(singlePage<TimeZonePage>(ui->page_timeZone), this, ui->stackedWidget,
-             ui->page_timeZone, &SetTimePage::back_default_page);
+    if (ui)
+        ui->page_timeZone->present(ui->page_timeZone->bring<TimeZonePage>());
 }
 
 void SetTimePage::back_default_page()
 {
-    ui->stackedWidget->setCurrentWidget(ui->frame_default);
+    if (ui)
+        ui->stackedWidget->setCurrentWidget(ui->frame_default);
 }
 
 void SetTimePage::on_button_back_clicked()
 {
-    handOnSinglePage<DateTimePage>(this);
-    handOnSinglePage<TimeZonePage>(this);
-    emit signal_backDefaultPage();
+    leave();
 }

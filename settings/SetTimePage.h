@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 namespace Ui {
 class SetTimePage;
@@ -10,26 +9,19 @@ class SetTimePage;
 /// Time and date: the clock's form, the time zone, and the way to the pages that choose them.
 ///
 /// A display only: nothing chosen here reaches a clock or is stored. GUI thread.
-class SetTimePage : public QWidget
+class SetTimePage : public FormPage<Ui::SetTimePage>
 {
     Q_OBJECT
 
 public:
     explicit SetTimePage(QWidget *parent = nullptr);
-    ~SetTimePage() override;
-
-signals:
-    void signal_backDefaultPage();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
-private slots:
+public slots:
     void on_button_timeZone_clicked();
     void on_button_dateTime_clicked();
     void on_button_back_clicked();
     void back_default_page();
-
-private:
-    std::unique_ptr<Ui::SetTimePage> ui;
 };

@@ -5,7 +5,6 @@
 #include "ui_TimeZonePage.h"
 
 #include <QFile>
-#include <QScrollBar>
 #include <QTextStream>
 
 namespace {
@@ -14,23 +13,21 @@ constexpr int zoneWidth = 706;
 constexpr int checkMarkWidth = 148;
 } // namespace
 
-TimeZonePage *TimeZonePage::instance = nullptr;
-
 TimeZonePage::TimeZonePage(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::TimeZonePage>())
+    : SinglePage(parent)
 {
     ui->setupUi(this);
     readZones();
     fillTable();
-    new DragScroll(ui->tableWidget_timeZone->viewport(),
-                   ui->tableWidget_timeZone->verticalScrollBar(), this);
+    scroll = new DragScroll(ui->tableWidget_timeZone, this);
+    ui->tableWidget_timeZone->viewport()->installEventFilter(this);
 }
 
-TimeZonePage::~TimeZonePage()
+bool TimeZonePage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (instance == this)
-        instance = nullptr;
+    if (watched == ui->tableWidget_timeZone->viewport())
+        scroll->follow(watched, event);
+    return SinglePage::eventFilter(watched, event);
 }
 
 void TimeZonePage::readZones()
@@ -63,7 +60,7 @@ void TimeZonePage::fillTable()
 
 void TimeZonePage::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void TimeZonePage::on_tableWidget_timeZone_cellDoubleClicked(int row, int /*column*/)

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "pages/FormPage.h"
+
 #include <QStringList>
-#include <QWidget>
-#include <memory>
+
+class DragScroll;
 
 namespace Ui {
 class TimeZonePage;
@@ -10,22 +12,18 @@ class TimeZonePage;
 
 /// The list of time zones. Choosing one, by a double tap, moves the check mark and no more.
 ///
-/// Exists once: see instance. GUI thread.
-class TimeZonePage : public QWidget
+/// The page exists once. GUI thread.
+class TimeZonePage : public SinglePage<TimeZonePage, Ui::TimeZonePage>
 {
     Q_OBJECT
 
 public:
     explicit TimeZonePage(QWidget *parent = nullptr);
-    ~TimeZonePage() override;
 
-    /// The one page, created by whoever opens it first; null before and once it is gone.
-    static TimeZonePage *instance;
+    /// Follows the finger on the list.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
-signals:
-    void signal_backDefaultPage();
-
-private slots:
+public slots:
     void on_button_back_clicked();
     void on_tableWidget_timeZone_cellDoubleClicked(int row, int column);
 
@@ -33,7 +31,7 @@ private:
     void readZones();
     void fillTable();
 
-    std::unique_ptr<Ui::TimeZonePage> ui;
     QStringList zones;
     int chosenRow = -1;
+    DragScroll *scroll;
 };

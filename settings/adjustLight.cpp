@@ -25,8 +25,7 @@ QString sliderStyle(const char *left, const char *right)
 } // namespace
 
 adjustLight::adjustLight(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::adjustLight>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     QSlider *slider = ui->slider_light;
@@ -35,7 +34,8 @@ adjustLight::adjustLight(QWidget *parent)
     styleSlider(Groove::Normal);
     captionSwitch(ui->checkBox_adjustLight, ui->button_close, ui->button_on);
 
-    connect(&sensorTimer, &QTimer::timeout, this, &adjustLight::cause_lightUpdate);
+    // Not by way of the page, which does nothing any more once it is emptied: the light goes on.
+    connect(&sensorTimer, &QTimer::timeout, &light, &BacklightControl::followSensor);
     sensorTimer.start(sensorInterval);
     ui->checkBox_adjustLight->setChecked(light.isAutomatic());
     check_lightAdjust();
@@ -47,30 +47,38 @@ adjustLight::adjustLight(QWidget *parent)
             [this](Groove wanted) { styleSlider(wanted); });
 }
 
-adjustLight::~adjustLight() = default;
-
 void adjustLight::check_lightAdjust()
 {
+    if (!ui)
+        return;
     light.setAutomatic(ui->checkBox_adjustLight->isChecked());
     ui->slider_light->setEnabled(!light.isAutomatic());
     ui->frame_veil->setVisible(light.isAutomatic());
 }
 
+void adjustLight::beforeEmptying()
+{
+    light.leaveBehind();
+}
+
 void adjustLight::on_button_back_clicked()
 {
     light.leaveBehind();
-    emit signal_backDefaultPage();
+    leave();
 }
 
 void adjustLight::light_valueChanged(int iSliderValue)
 {
+    if (!ui)
+        return;
     ui->slider_light->setEnabled(!light.isAutomatic());
     light.setLevel(iSliderValue);
 }
 
 void adjustLight::cause_lightUpdate()
 {
-    light.followSensor();
+    if (ui)
+        light.followSensor();
 }
 
 void adjustLight::styleSlider(Groove wanted)

@@ -1,28 +1,27 @@
 #include "settings/nightModePage.h"
 
-#include "pages/PagePattern.h"
 #include "pages/SwitchCaptions.h"
 #include "settings/TimeSpinners.h"
 #include "settings/timePage.h"
 #include "ui_nightModePage.h"
 
 nightModePage::nightModePage(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::nightModePage>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     captionSwitch(ui->checkBox_nightMode, ui->button_close, ui->button_on);
     connect(ui->checkBox_nightMode, &QCheckBox::clicked, this,
             &nightModePage::SetTimeControlHideSlt);
+    connect(ui->page_time, &PageHolder::signal_pageLeft, this, &nightModePage::back_default_page);
     InitUi();
     SetTimeControlHideSlt();
     readySpinnersSoon();
 }
 
-nightModePage::~nightModePage() = default;
-
 void nightModePage::SetTimeControlHideSlt()
 {
+    if (!ui)
+        return;
     const bool on = ui->checkBox_nightMode->isChecked();
     ui->frame_startTime->setVisible(on);
     ui->frame_finishTime->setVisible(on);
@@ -41,15 +40,17 @@ void nightModePage::on_button_finishTime_clicked()
 
 void nightModePage::openTimePage()
 {
-    openPage<timePage>(this, ui->stackedWidget, ui->page_time, &nightModePage::back_default_page);
+    if (ui)
+        ui->page_time->open<timePage>();
 }
 
 void nightModePage::back_default_page()
 {
-    ui->stackedWidget->setCurrentWidget(ui->page_default);
+    if (ui)
+        ui->stackedWidget->setCurrentWidget(ui->page_default);
 }
 
 void nightModePage::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 namespace Ui {
 class nightModePage;
@@ -10,18 +9,14 @@ class nightModePage;
 /// Night mode: a switch and, while it is on, the rows of its start and finish time.
 ///
 /// A display only: neither the switch nor a time is stored or acted upon. GUI thread.
-class nightModePage : public QWidget
+class nightModePage : public FormPage<Ui::nightModePage>
 {
     Q_OBJECT
 
 public:
     explicit nightModePage(QWidget *parent = nullptr);
-    ~nightModePage() override;
 
-signals:
-    void signal_backDefaultPage();
-
-private slots:
+public slots:
     void on_button_back_clicked();
     /// Shows the two time rows while the switch is on.
     void SetTimeControlHideSlt();
@@ -35,6 +30,4 @@ private:
     /// Nothing to do: the form says it all.
     void InitUi() {}
     void openTimePage();
-
-    std::unique_ptr<Ui::nightModePage> ui;
 };

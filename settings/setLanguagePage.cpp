@@ -5,16 +5,13 @@
 #include "ui_setLanguagePage.h"
 
 setLanguagePage::setLanguagePage(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::setLanguagePage>())
+    : FormPage(parent)
 {
     // The back button is bound by its name. Bound a second time it would restart the device twice.
     ui->setupUi(this);
     ui->button_back->setGeometry(0, 0, 10, 10);
     show_language_list();
 }
-
-setLanguagePage::~setLanguagePage() = default;
 
 void setLanguagePage::show_language_list()
 {
@@ -29,7 +26,9 @@ void setLanguagePage::on_listWidget_itemClicked(QListWidgetItem * /*item*/) {}
 
 void setLanguagePage::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    if (!ui)
+        return;
+    leave();
     if (const QListWidgetItem *item = ui->listWidget->currentItem())
         Language(item->data(Qt::WhatsThisRole).toString()).store();
     // Kept[restart-without-change]: whatever was chosen, and if nothing was.

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 class QListWidgetItem;
 namespace Ui {
@@ -10,16 +9,12 @@ class setLanguagePage;
 
 /// The language page. Leaving it writes the language file and restarts the program, which reads it;
 /// nothing changes before. GUI thread.
-class setLanguagePage : public QWidget
+class setLanguagePage : public FormPage<Ui::setLanguagePage>
 {
     Q_OBJECT
 
 public:
     explicit setLanguagePage(QWidget *parent = nullptr);
-    ~setLanguagePage() override;
-
-signals:
-    void signal_backDefaultPage();
 
 public slots:
     /// Does nothing: the selection of the list is the choice.
@@ -28,6 +23,4 @@ public slots:
 
 private:
     void show_language_list();
-
-    std::unique_ptr<Ui::setLanguagePage> ui;
 };

@@ -20,16 +20,13 @@ const QTime shownStart{22, 30};
 } // namespace
 
 timePage::timePage(QWidget *parent)
-    : QWidget(parent)
-    , ui(std::make_unique<Ui::timePage>())
+    : FormPage(parent)
 {
     ui->setupUi(this);
     // The page carries the title of the one that opens it.
     ui->label_title->setText(QCoreApplication::translate("nightModePage", "夜间模式"));
     initTimeControl();
 }
-
-timePage::~timePage() = default;
 
 void timePage::initTimeControl()
 {
@@ -40,17 +37,23 @@ void timePage::initTimeControl()
 
 void timePage::on_pushButton_start_clicked()
 {
-    ui->pushButton_start->setStyleSheet(tabStyle(true));
-    ui->pushButton_finish->setStyleSheet(tabStyle(false));
+    selectFinish(false);
 }
 
 void timePage::on_pushButton_finish_clicked()
 {
-    ui->pushButton_start->setStyleSheet(tabStyle(false));
-    ui->pushButton_finish->setStyleSheet(tabStyle(true));
+    selectFinish(true);
+}
+
+void timePage::selectFinish(bool finish)
+{
+    if (!ui)
+        return;
+    ui->pushButton_start->setStyleSheet(tabStyle(!finish));
+    ui->pushButton_finish->setStyleSheet(tabStyle(finish));
 }
 
 void timePage::on_button_back_clicked()
 {
-    emit signal_backDefaultPage();
+    leave();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
+#include "pages/FormPage.h"
 
 namespace Ui {
 class timePage;
@@ -10,25 +9,21 @@ class timePage;
 /// Wheels for a time of night mode, and a selector between its start and its finish.
 ///
 /// What the wheels are turned to leaves the page nowhere. Built afresh for every visit. GUI thread.
-class timePage : public QWidget
+class timePage : public FormPage<Ui::timePage>
 {
     Q_OBJECT
 
 public:
     explicit timePage(QWidget *parent = nullptr);
-    ~timePage() override;
 
-signals:
-    void signal_backDefaultPage();
-
-private slots:
+public slots:
     void on_button_back_clicked();
     void on_pushButton_start_clicked();
     void on_pushButton_finish_clicked();
 
 private:
     void initTimeControl();
+    void selectFinish(bool finish);
 
-    std::unique_ptr<Ui::timePage> ui;
     bool use24Hour = true;
 };

@@ -1,6 +1,5 @@
 #include "benchmarks/support/Yardstick.h"
 #include "connectivity/SetWifiPage.h"
-#include "pages/Ground.h"
 #include "testkit/Environment.h"
 
 #include <QApplication>
@@ -46,7 +45,6 @@ struct Screen
     SetWifiPage *open()
     {
         page = std::make_unique<SetWifiPage>(&window);
-        fillGround(page.get());
         page->show();
         repaint();
         return page.get();

@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -28,6 +29,8 @@ private slots:
         QVERIFY(log.contains("Download Zell App from Apple Store ..."));
         QVERIFY(log.contains("Download Zell App from Google Play ..."));
         tap(on("button_connectApp"));
+        QCOMPARE(on("label_right1")->property("text").toString(),
+                 "请您在手机上打开 Zell app, 并在“配对”界面输入下列数字：");
         for (int i = 0; i < 4; ++i) {
             const auto *label = page->findChild<QLabel *>(QString("label_num%1").arg(i + 1));
             const QString digit = label->text();
@@ -87,6 +90,22 @@ private slots:
         QCOMPARE(on("scrollBar_result")->property("value").toInt(), 60);
         drag(page.get(), {400, 200}, {400, 470}, 1);
         QTRY_COMPARE(bar->value(), 0);
+    }
+
+    // Whoever hands the page an event of its list is answered by the event's own position.
+    void resultsTakeEventsOfTheirViewport()
+    {
+        auto *result = open<locationResult>();
+        const auto *list = static_cast<QListWidget *>(on("listWidget"));
+        const auto filter = [&](QEvent::Type type, int y) {
+            QMouseEvent event(type, QPointF(9, y), QPointF(500, 0), Qt::LeftButton, Qt::LeftButton,
+                              Qt::NoModifier);
+            return result->eventFilter(list->viewport(), &event);
+        };
+        QVERIFY(filter(QEvent::MouseButtonPress, 200));
+        QVERIFY(filter(QEvent::MouseButtonRelease, 150));
+        QTRY_COMPARE(list->verticalScrollBar()->value(), 50);
+        QVERIFY(!filter(QEvent::MouseButtonDblClick, 10));
     }
 
 private:

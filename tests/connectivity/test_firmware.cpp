@@ -6,6 +6,9 @@
 #include "tests/connectivity/PackageServer.h"
 
 #include <QLabel>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QPointer>
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -135,6 +138,21 @@ private slots:
         QVERIFY(shown("page_retryFirmware"));
         QTRY_COMPARE(page->findChildren<QWidget *>("installFirmware").size(), 2);
         QCOMPARE(server.requests, 2);
+    }
+
+    void anyReplyIsReadAndDeleted()
+    {
+        PackageServer server(ok(QByteArray(100000, 'b') + QByteArray("\0c", 2), 100002),
+                             Then::Hold);
+        QNetworkAccessManager manager;
+        const QPointer<QNetworkReply> reply =
+            manager.get(QNetworkRequest(QUrl(server.address(package))));
+        QTRY_VERIFY(reply->isFinished());
+        MessageLog log;
+        page->finish_reply(reply);
+        QCOMPARE(log.count("No error result is  \"" + QString(65536, 'b') + "\""), 1);
+        QVERIFY(shown("page_installFirmware"));
+        QTRY_VERIFY(!reply);
     }
 
     void pageMayGoWhileItsDownloadRuns()

@@ -1,4 +1,3 @@
-#include "pages/EmptyPage.h"
 #include "settings/Backlight.h"
 #include "settings/adjustLight.h"
 #include "testkit/Environment.h"
@@ -75,7 +74,7 @@ private slots:
     {
         adjustLight former;
         QMetaObject::invokeMethod(&former, "on_button_back_clicked");
-        emptyPage(&former);
+        former.empty();
         QTRY_VERIFY(former.findChildren<QWidget *>().isEmpty());
         Environment::writeDeviceFile(sensor, "300");
         poll(page.get());
@@ -114,7 +113,8 @@ private slots:
 
 private:
     static QByteArray recorded() { return Environment::contentOf("levels"); }
-    static void poll(adjustLight *of) { QMetaObject::invokeMethod(of, "cause_lightUpdate"); }
+    // What the timer of the page does, also when the page has been emptied.
+    static void poll(adjustLight *of) { of->findChild<BacklightControl *>()->followSensor(); }
 
     static constexpr const char *tool = "/bin/qtapp/baklight";
     static constexpr const char *sensor = "/sys/devices/virtual/input/input3/light_val";

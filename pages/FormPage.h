@@ -1,0 +1,45 @@
+#pragma once
+
+#include "pages/Page.h"
+
+#include <memory>
+
+/// A page with the form @p Form, a class made from a .ui file. It is complete in the page's source
+/// file only, where the constructor notes how to delete it.
+template <class Form>
+class FormPage : public Page
+{
+protected:
+    explicit FormPage(QWidget *parent)
+        : Page(parent)
+        , ui(new Form, [](Form *form) { delete form; })
+    {
+    }
+
+    /// Null once the page has been emptied: every slot asks first.
+    std::unique_ptr<Form, void (*)(Form *)> ui;
+
+private:
+    void dropForm() final { ui.reset(); }
+};
+
+/// A page that exists once: built by whoever opens it first, and moved to the holder of whoever
+/// opens it next. It is never emptied.
+template <class Class, class Form>
+class SinglePage : public FormPage<Form>
+{
+public:
+    ~SinglePage() override
+    {
+        if (instance == this)
+            instance = nullptr;
+    }
+
+    /// The one page; null before its first use and once it is gone.
+    static inline Class *instance = nullptr;
+
+    bool existsOnce() const final { return true; }
+
+protected:
+    using FormPage<Form>::FormPage;
+};

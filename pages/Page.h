@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QWidget>
+
+/// A page of the settings area: built afresh for every visit, opened by a PageHolder and left by
+/// signal_backDefaultPage(), on the opaque ground of all pages.
+///
+/// Its life: whole from its construction until its holder opens the next page, thus also after it
+/// has been left; emptied from then on. An emptied page stays as an empty frame until the holder
+/// goes, because the style sheet keeps some 10 KB for every widget it has ever met. Its slots do
+/// nothing any more. What must go on is done by objects that know nothing of the form. GUI thread.
+class Page : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Page(QWidget *parent = nullptr);
+
+    bool isEmptied() const { return emptied; }
+
+    /// Deletes the widgets of the form, from the event loop. The pages behind this one are kept and
+    /// emptied with it, but for those that exist once. May be called again.
+    void empty();
+
+    /// Whether there is one such page in the program, which moves from holder to holder.
+    virtual bool existsOnce() const { return false; }
+
+signals:
+    /// The user is done with the page.
+    void signal_backDefaultPage();
+
+protected:
+    /// Tells the opener that the user is done with the page. Nothing on an emptied one.
+    void leave();
+
+    /// The page is about to lose its form: ends or hands over what needs it.
+    virtual void beforeEmptying() {}
+
+private:
+    /// Gives up the form, whose widgets go.
+    virtual void dropForm() = 0;
+
+    bool emptied = false;
+};

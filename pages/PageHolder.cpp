@@ -1,0 +1,19 @@
+#include "pages/PageHolder.h"
+
+#include <QStackedWidget>
+
+void PageHolder::present(Page *page)
+{
+    connect(page, &Page::signal_backDefaultPage, this, &PageHolder::signal_pageLeft);
+    page->raise();
+    // Explicitly: a page made while its holder is on the screen would stay hidden.
+    page->show();
+    if (auto *stack = qobject_cast<QStackedWidget *>(parentWidget()))
+        stack->setCurrentWidget(this);
+}
+
+void PageHolder::emptyFormer()
+{
+    if (former)
+        former->empty();
+}

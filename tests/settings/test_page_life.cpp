@@ -1,0 +1,191 @@
+#include "connectivity/SetWifiPage.h"
+#include "connectivity/connectApp.h"
+#include "connectivity/connectResult.h"
+#include "connectivity/disconnectApp.h"
+#include "connectivity/installFirmware.h"
+#include "connectivity/locationResult.h"
+#include "connectivity/passwordKeyboard.h"
+#include "connectivity/retryFirmware.h"
+#include "connectivity/searchLocation.h"
+#include "connectivity/setLocation.h"
+#include "connectivity/tryConnectApp.h"
+#include "connectivity/updateFirmware.h"
+#include "connectivity/wifiConnectResult.h"
+#include "pages/PageHolder.h"
+#include "settings/DateTimePage.h"
+#include "settings/FactoryReset_Confirm.h"
+#include "settings/Factory_Reset.h"
+#include "settings/SetTimePage.h"
+#include "settings/TimeZonePage.h"
+#include "settings/adjustLight.h"
+#include "settings/nightModePage.h"
+#include "settings/setLanguagePage.h"
+#include "settings/timePage.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
+
+#include <QItemSelection>
+#include <QListWidgetItem>
+#include <QNetworkReply>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <functional>
+
+namespace {
+struct PageClass
+{
+    const char *name;
+    std::function<Page *(PageHolder *)> open;
+};
+
+template <class Opened>
+PageClass visited()
+{
+    return {Opened::staticMetaObject.className(),
+            [](PageHolder *holder) -> Page * { return holder->open<Opened>(); }};
+}
+
+QList<QMetaMethod> methodsOf(const QObject *object, QMetaMethod::MethodType type)
+{
+    QList<QMetaMethod> methods;
+    const QMetaObject *meta = object->metaObject();
+    for (int i = QWidget::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
+        if (meta->method(i).methodType() == type)
+            methods.append(meta->method(i));
+    }
+    return methods;
+}
+
+/// Calls @p slot with arguments that are zero, null or empty.
+void callWithNothing(QObject *object, const QMetaMethod &slot)
+{
+    QList<QVariant> values;
+    QList<QGenericArgument> arguments(2);
+    for (int i = 0; i < slot.parameterCount(); ++i)
+        values.append(QVariant(QMetaType::fromName(slot.parameterTypeName(i))));
+    for (int i = 0; i < values.size(); ++i)
+        arguments[i] = QGenericArgument(values[i].typeName(), values[i].constData());
+    QVERIFY2(slot.invoke(object, Qt::DirectConnection, arguments[0], arguments[1]),
+             slot.methodSignature());
+}
+
+QList<QWidget *> widgetsIn(const Page *page)
+{
+    QList<QWidget *> widgets = page->findChildren<QWidget *>();
+    widgets.removeIf([](const QWidget *widget) { return qobject_cast<const Page *>(widget); });
+    return widgets;
+}
+} // namespace
+
+class TestPageLife : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        qRegisterMetaType<QItemSelection>();
+        qRegisterMetaType<QListWidgetItem *>();
+        qRegisterMetaType<QNetworkReply *>();
+    }
+
+    void init()
+    {
+        stack = std::make_unique<QStackedWidget>();
+        stack->addWidget(new QWidget);
+        holder = new PageHolder;
+        stack->addWidget(holder);
+        stack->resize(854, 480);
+        stack->show();
+    }
+
+    void emptiedPageDoesNothing_data()
+    {
+        addRows<PageClass>({visited<SetWifiPage>(),     visited<SetTimePage>(),
+                            visited<nightModePage>(),   visited<adjustLight>(),
+                            visited<setLanguagePage>(), visited<setLocation>(),
+                            visited<connectApp>(),      visited<updateFirmware>(),
+                            visited<Factory_Reset>(),   visited<FactoryReset_Confirm>(),
+                            visited<timePage>(),        visited<connectResult>(),
+                            visited<disconnectApp>(),   visited<installFirmware>(),
+                            visited<locationResult>(),  visited<passwordKeyboard>(),
+                            visited<retryFirmware>(),   visited<searchLocation>(),
+                            visited<tryConnectApp>(),   visited<wifiConnectResult>()});
+    }
+
+    void emptiedPageDoesNothing()
+    {
+        QFETCH(PageClass, row);
+        const QPointer<Page> former = row.open(holder);
+        for (const QMetaMethod &slot : methodsOf(former, QMetaMethod::Slot)) {
+            if (slot.name().startsWith("jump_"))
+                callWithNothing(former, slot);
+        }
+        QList<QPointer<Page>> gone{former};
+        for (Page *behind : former->findChildren<Page *>())
+            gone.append(behind);
+
+        const Page *present = row.open(holder);
+        for (const QPointer<Page> &page : gone) {
+            QVERIFY(page);
+            QVERIFY(page->isEmptied());
+            QTRY_VERIFY(widgetsIn(page).isEmpty());
+            std::vector<std::unique_ptr<QSignalSpy>> spies;
+            for (const QMetaMethod &signal : methodsOf(page, QMetaMethod::Signal))
+                spies.push_back(std::make_unique<QSignalSpy>(page, signal));
+            const MessageLog log;
+            for (const QMetaMethod &slot : methodsOf(page, QMetaMethod::Slot))
+                callWithNothing(page, slot);
+            page->grab();
+            page->empty();
+            QCOMPARE(log.lines(), QStringList());
+            for (const auto &spy : spies)
+                QCOMPARE(spy->size(), 0);
+            QVERIFY(widgetsIn(page).isEmpty());
+        }
+        QVERIFY(!present->isEmptied());
+        QVERIFY(present->isVisible());
+        QCOMPARE(stack->currentWidget(), holder);
+    }
+
+    // Left, a page is as it was until the next one opens; each way back is told.
+    void leftPageStaysWhole()
+    {
+        auto *page = holder->open<Factory_Reset>();
+        QSignalSpy left(holder, &PageHolder::signal_pageLeft);
+        page->on_button_back_clicked();
+        page->on_button_back_clicked();
+        QCOMPARE(left.size(), 2);
+        stack->setCurrentIndex(0);
+        page->on_button_confirm_clicked();
+        QVERIFY(!page->isEmptied());
+        QCOMPARE(page->findChildren<FactoryReset_Confirm *>().size(), 1);
+    }
+
+    void pageThatExistsOnceOutlivesItsOpener()
+    {
+        auto *opener = holder->open<SetTimePage>();
+        opener->on_button_dateTime_clicked();
+        opener->on_button_timeZone_clicked();
+        const QPointer<Page> wheels = DateTimePage::instance;
+        const QPointer<Page> zones = TimeZonePage::instance;
+        auto *next = holder->open<SetTimePage>();
+        QTRY_VERIFY(opener->findChildren<PageHolder *>().isEmpty());
+        next->on_button_dateTime_clicked();
+        QCOMPARE(DateTimePage::instance, wheels);
+        QVERIFY(wheels->isVisible());
+        QCOMPARE(TimeZonePage::instance, zones);
+        QVERIFY(!zones->isEmptied());
+        stack.reset();
+        QVERIFY(!DateTimePage::instance);
+        QVERIFY(!TimeZonePage::instance);
+    }
+
+private:
+    std::unique_ptr<QStackedWidget> stack;
+    PageHolder *holder = nullptr;
+};
+
+ZELL_TEST_MAIN(TestPageLife)
+#include "test_page_life.moc"
