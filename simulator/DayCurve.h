@@ -6,7 +6,7 @@ namespace simulator {
 
 /// The device's clock when the simulator starts, in seconds since midnight: eight in the morning,
 /// whatever the time is here, so that every run shows the same.
-inline constexpr double START_OF_RUN = 8 * 3600.0;
+inline constexpr double startOfRun = 8 * 3600.0;
 
 /// A quantity over the day: a slow wave of 24 hours with a small ripple on it.
 struct DayCurve

@@ -1,7 +1,7 @@
 #include "simulator/DeviceRoot.h"
 
 #include "device/DevicePath.h"
-#include "simulator/WifiScan.h"
+#include "simulator/ScannerScript.h"
 
 #include <QDir>
 #include <QFile>
@@ -112,10 +112,15 @@ bool DeviceRoot::create(const QStringList &networks, QString *problem) const
                     head + "# Asks the simulator to stop the program and start it again.\n" +
                         ": > " + quotedForShell(restartRequest()) + '\n',
                     true) &&
-        replaceFile(programFolder() + "/iwlist", wifiScannerScript(networks), true);
+        setNetworks(networks);
     if (!done)
         *problem = QStringLiteral("cannot make the device root %1").arg(root);
     return done;
+}
+
+bool DeviceRoot::setNetworks(const QStringList &networks) const
+{
+    return replaceFile(programFolder() + "/iwlist", scannerScript(networks), true);
 }
 
 } // namespace simulator

@@ -28,6 +28,9 @@ public:
     /// the reason in @p problem, where that is not possible.
     bool create(const QStringList &networks, QString *problem) const;
 
+    /// Lets the wireless scanner find @p networks from now on. False where it cannot be written.
+    bool setNetworks(const QStringList &networks) const;
+
 private:
     QString root;
 };

@@ -47,15 +47,15 @@ FirmwareAnswer statusAnswer(const QByteArray &status)
 
 FirmwareAnswer firmwareAnswer(FirmwareFault fault)
 {
-    FirmwareAnswer answer{.head = headOf("200 OK", lengthHeader(FIRMWARE_SIZE)),
-                          .bodySize = FIRMWARE_SIZE};
+    FirmwareAnswer answer{.head = headOf("200 OK", lengthHeader(firmwareSize)),
+                          .bodySize = firmwareSize};
     switch (fault) {
     case FirmwareFault::None:
         break;
     case FirmwareFault::Refused:
         return statusAnswer("403 Forbidden");
     case FirmwareFault::CutOff:
-        answer.bodySize = FIRMWARE_SIZE / 2;
+        answer.bodySize = firmwareSize / 2;
         break;
     case FirmwareFault::Stalled:
         answer.bodySize = answer.chunkSize;
@@ -64,7 +64,7 @@ FirmwareAnswer firmwareAnswer(FirmwareFault fault)
     case FirmwareFault::Endless:
         answer.head = headOf("200 OK", {});
         answer.bodySize = -1;
-        answer.chunkSize = 256 * KIBIBYTE;
+        answer.chunkSize = 256 * kibibyte;
         answer.pause = 50ms;
         break;
     case FirmwareFault::UnknownLength:
@@ -81,30 +81,31 @@ FirmwareAnswer firmwareAnswer(FirmwareFault fault)
 bool asksForFirmware(const QByteArray &request)
 {
     const RequestLine line = requestLine(request);
-    return line.method == "GET" && line.path == FIRMWARE_PATH;
+    return line.method == "GET" && line.path == firmwarePath;
 }
 
-FirmwareAnswer answerTo(const QByteArray &request, FirmwareFault fault)
+FirmwareAnswer answerTo(const QByteArray &request, const FirmwareAnswer &package)
 {
     const RequestLine line = requestLine(request);
     if (line.method.isEmpty())
         return statusAnswer("400 Bad Request");
     if (line.method != "GET" && line.method != "HEAD")
         return statusAnswer("405 Method Not Allowed");
-    if (line.path != FIRMWARE_PATH)
+    if (line.path != firmwarePath)
         return statusAnswer("404 Not Found");
     if (line.method == "HEAD")
-        return {.head = firmwareAnswer(fault).head};
-    return firmwareAnswer(fault);
+        return {.head = package.head};
+    return package;
 }
 
 QByteArray firmwareBytes(qint64 offset, qint64 size)
 {
     QByteArray bytes(qsizetype(size), '\0');
-    for (qint64 i = 0; i < size; ++i) {
-        const qint64 place = offset + i;
-        bytes[qsizetype(i)] = place < packageTitle.size() ? packageTitle[qsizetype(place)]
-                                                          : char(quint64(place) * 2654435761U >> 8);
+    qint64 place = offset;
+    for (char &byte : bytes) {
+        byte = place < packageTitle.size() ? packageTitle[qsizetype(place)]
+                                           : char(quint64(place) * 2654435761U >> 8);
+        ++place;
     }
     return bytes;
 }

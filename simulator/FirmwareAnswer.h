@@ -5,7 +5,7 @@
 
 namespace simulator {
 
-inline constexpr qint64 KIBIBYTE = 1024;
+inline constexpr qint64 kibibyte = 1024;
 
 /// How the firmware server answers.
 enum class FirmwareFault {
@@ -25,16 +25,16 @@ struct FirmwareAnswer
 
     QByteArray head;                      ///< status line and headers with the blank line
     qint64 bodySize = 0;                  ///< bytes of body that are really sent; -1 without end
-    qint64 chunkSize = 16 * KIBIBYTE;     ///< bytes sent at once
+    qint64 chunkSize = 16 * kibibyte;     ///< bytes sent at once
     std::chrono::milliseconds pause{100}; ///< between two chunks
     Ending ending = Ending::Close;
 };
 
 /// Path of the package on the server.
-inline constexpr auto FIRMWARE_PATH = "/zell/ZellQt-1.1.pkg";
+inline constexpr auto firmwarePath = "/zell/ZellQt-1.1.pkg";
 
 /// Size of the package in bytes; at the server's pace it takes two and a half seconds.
-inline constexpr qint64 FIRMWARE_SIZE = 400 * KIBIBYTE;
+inline constexpr qint64 firmwareSize = 400 * kibibyte;
 
 /// The answer of the server in the state @p fault to a GET of the package.
 FirmwareAnswer firmwareAnswer(FirmwareFault fault);
@@ -42,12 +42,12 @@ FirmwareAnswer firmwareAnswer(FirmwareFault fault);
 /// An answer of status @p status ("404 Not Found") and nothing else.
 FirmwareAnswer statusAnswer(const QByteArray &status);
 
-/// The answer to the request head @p request, which ends with the blank line: the package with
-/// @p fault for a GET of FIRMWARE_PATH, its head alone for a HEAD, 404 for another path, 405 for
-/// another method, 400 for what is no HTTP.
-FirmwareAnswer answerTo(const QByteArray &request, FirmwareFault fault);
+/// The answer to the request head @p request, which ends with the blank line: @p package for a GET
+/// of firmwarePath, its head alone for a HEAD, 404 for another path, 405 for another method, 400
+/// for what is no HTTP.
+FirmwareAnswer answerTo(const QByteArray &request, const FirmwareAnswer &package);
 
-/// Whether @p request asks for the package itself, so that answering it uses up a fault.
+/// Tells whether @p request asks for the package itself, so that answering it uses up an answer.
 bool asksForFirmware(const QByteArray &request);
 
 /// @p size bytes of the package (or of an endless body) from @p offset on.

@@ -7,11 +7,11 @@
 
 namespace simulator {
 namespace {
-constexpr qsizetype longestRequest = 16 * KIBIBYTE;
+constexpr qsizetype longestRequest = 16 * kibibyte;
 // A client that does not read must not fill this process's memory.
-constexpr qint64 mostUnsent = 1024 * KIBIBYTE;
+constexpr qint64 mostUnsent = 1024 * kibibyte;
 
-/// Sends one answer on one socket, chunk by chunk, and lives as long as the socket.
+// Sends one answer on one socket, chunk by chunk, and lives as long as the socket.
 class AnswerSender : public QObject
 {
 public:
@@ -50,9 +50,9 @@ private:
 };
 } // namespace
 
-FirmwareServer::FirmwareServer(const QList<FirmwareFault> &faultCycle, QObject *parent)
+FirmwareServer::FirmwareServer(const QList<FirmwareAnswer> &answerCycle, QObject *parent)
     : QObject(parent)
-    , faults(faultCycle)
+    , answers(answerCycle)
 {
     connect(&server, &QTcpServer::newConnection, this, &FirmwareServer::acceptConnections);
 }
@@ -71,13 +71,25 @@ QString FirmwareServer::url() const
 {
     return QStringLiteral("http://127.0.0.1:%1%2")
         .arg(server.serverPort())
-        .arg(QLatin1String(FIRMWARE_PATH));
+        .arg(QLatin1String(firmwarePath));
+}
+
+void FirmwareServer::dropClients()
+{
+    for (auto *socket : server.findChildren<QTcpSocket *>())
+        socket->abort();
+}
+
+qsizetype FirmwareServer::clients() const
+{
+    return server.findChildren<QTcpSocket *>().size();
 }
 
 void FirmwareServer::acceptConnections()
 {
     while (QTcpSocket *socket = server.nextPendingConnection()) {
         connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+        connect(socket, &QTcpSocket::bytesWritten, this, [this](qint64 bytes) { sent += bytes; });
         connect(socket, &QTcpSocket::readyRead, this,
                 [this, socket, request = std::make_shared<QByteArray>()] {
                     readRequest(socket, *request);
@@ -94,10 +106,10 @@ void FirmwareServer::readRequest(QTcpSocket *socket, QByteArray &request)
     }
     request += socket->readAll();
     if (request.contains(blankLine)) {
-        const FirmwareFault fault = faults.at(served % faults.size());
+        const FirmwareAnswer &package = answers.at(served % answers.size());
         if (asksForFirmware(request))
             ++served;
-        new AnswerSender(answerTo(request, fault), socket);
+        new AnswerSender(answerTo(request, package), socket);
     } else if (request.size() > longestRequest) {
         socket->abort();
     }

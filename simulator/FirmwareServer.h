@@ -7,14 +7,15 @@
 
 namespace simulator {
 
-/// The HTTP server of the firmware package, on a free port of the loopback address. It sends at a
-/// pace that can be seen on a progress bar and can fail in every way of FirmwareFault.
+/// The HTTP server of the firmware package, on a free port of the loopback address. It sends at the
+/// pace of its answers and fails in every way that they describe.
 class FirmwareServer : public QObject
 {
     Q_OBJECT
 public:
-    /// Request after request is answered with the next of @p faultCycle, which must not be empty.
-    explicit FirmwareServer(const QList<FirmwareFault> &faultCycle, QObject *parent = nullptr);
+    /// Answers one download after the other with the next of @p answerCycle, which must not be
+    /// empty.
+    explicit FirmwareServer(const QList<FirmwareAnswer> &answerCycle, QObject *parent = nullptr);
 
     /// False where no port could be had; errorString() says why.
     bool listen();
@@ -23,13 +24,21 @@ public:
     /// Address of the package. Valid after listen().
     QString url() const;
 
+    /// Cuts off every client.
+    void dropClients();
+    qsizetype clients() const;
+
+    qsizetype downloads() const { return served; } ///< how many were asked for
+    qint64 bytesSent() const { return sent; }      ///< to all clients together, heads included
+
 private:
     void acceptConnections();
     void readRequest(QTcpSocket *socket, QByteArray &request);
 
     QTcpServer server;
-    QList<FirmwareFault> faults;
+    QList<FirmwareAnswer> answers;
     qsizetype served = 0;
+    qint64 sent = 0;
 };
 
 } // namespace simulator

@@ -3,7 +3,7 @@
 #include "simulator/DayCurve.h"
 #include "simulator/FirmwareAnswer.h"
 #include "simulator/SensorFrame.h"
-#include "simulator/SensorText.h"
+#include "simulator/SysfsText.h"
 
 #include <QList>
 #include <QStringList>

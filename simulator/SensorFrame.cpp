@@ -30,7 +30,7 @@ quint16 sensorChecksum(const QByteArray &frame)
 
 QByteArray sensorFrame(quint32 particles, QRandomGenerator &random)
 {
-    QByteArray frame = noise(FRAME_SIZE, random);
+    QByteArray frame = noise(frameSize, random);
     frame[0] = 'Z';
     frame[1] = char(0xA5);
     qToLittleEndian(particles, frame.data() + particleOffset);
@@ -51,7 +51,7 @@ QList<QByteArray> sensorBursts(FrameFault fault, quint32 particles, QRandomGener
         frame[1] = 'Z';
         break;
     case FrameFault::Split:
-        return {frame.first(FRAME_SIZE / 2), frame.sliced(FRAME_SIZE / 2)};
+        return {frame.first(frameSize / 2), frame.sliced(frameSize / 2)};
     case FrameFault::Merged:
         return {frame + sensorFrame(particles, random)};
     case FrameFault::Short:
@@ -61,7 +61,7 @@ QList<QByteArray> sensorBursts(FrameFault fault, quint32 particles, QRandomGener
         frame.append('Z');
         break;
     case FrameFault::Noise:
-        return {noise(FRAME_SIZE / 3, random)};
+        return {noise(frameSize / 3, random)};
     }
     return {frame};
 }

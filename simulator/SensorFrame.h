@@ -10,7 +10,7 @@ namespace simulator {
 enum class FrameFault { None, BadChecksum, BadHeader, Split, Merged, Short, Long, Noise };
 
 /// Length of a frame in bytes.
-inline constexpr qsizetype FRAME_SIZE = 60;
+inline constexpr qsizetype frameSize = 60;
 
 /// A good frame: "Z" and 0xA5, @p particles (µg/m³) in 32 bits little-endian at offset 16, the
 /// checksum high byte first at offset 58. The bytes between are drawn from @p random.

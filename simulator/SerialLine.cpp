@@ -12,8 +12,8 @@
 
 namespace simulator {
 namespace {
-/// Sets the line to pass bytes as they are. Having been opened and closed once, it also tells from
-/// now on whether somebody has it open.
+// Sets the line to pass bytes as they are. Having been opened and closed once, it also tells from
+// now on whether somebody has it open.
 bool makeRaw(const char *device)
 {
     const int line = ::open(device, O_RDWR | O_NOCTTY | O_CLOEXEC);
@@ -71,15 +71,17 @@ bool SerialLine::send(const QByteArray &burst)
 {
     if (!isPluggedIn())
         return false;
-    dropReceived();
+    received();
     return isOpened() && ::write(terminal, burst.constData(), size_t(burst.size())) == burst.size();
 }
 
-void SerialLine::dropReceived()
+QByteArray SerialLine::received()
 {
-    std::array<char, 1024> bytes{};
-    while (::read(terminal, bytes.data(), bytes.size()) > 0) {
-    }
+    QByteArray bytes;
+    std::array<char, 1024> chunk{};
+    for (ssize_t size = 0; (size = ::read(terminal, chunk.data(), chunk.size())) > 0;)
+        bytes.append(chunk.data(), size);
+    return bytes;
 }
 
 } // namespace simulator

@@ -6,7 +6,7 @@
 namespace simulator {
 
 /// The serial line between the particle sensor and the board: a pty whose far end appears in the
-/// device root as a link. What the board sends is read and dropped.
+/// device root as a link.
 class SerialLine
 {
 public:
@@ -25,16 +25,17 @@ public:
 
     bool isPluggedIn() const { return terminal >= 0; }
 
-    /// Whether somebody has the device open.
+    /// Tells whether somebody has the device open.
     bool isOpened() const;
 
-    /// Sends one burst in a single write. Like on a wire, it is lost where nobody listens. Returns
-    /// whether somebody did.
+    /// Sends one burst in a single write, having dropped what the board sent before. Like on a
+    /// wire, it is lost where nobody listens. Returns whether somebody did.
     bool send(const QByteArray &burst);
 
-private:
-    void dropReceived();
+    /// Takes what the board has sent since the last call. Never waits.
+    QByteArray received();
 
+private:
     QString linkPath;
     int terminal = -1;
 };

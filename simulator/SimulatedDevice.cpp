@@ -15,13 +15,21 @@ const QString firmwareVariable = QStringLiteral("ZELL_FIRMWARE_URL");
 const QString pathVariable = QStringLiteral("PATH");
 // Where the system has a proxy, the firmware server on loopback must not be asked for through it.
 const QString noProxyVariable = QStringLiteral("no_proxy");
+
+QList<FirmwareAnswer> answersOf(const Scenario &scenario)
+{
+    QList<FirmwareAnswer> answers;
+    for (const FirmwareFault fault : scenario.firmware)
+        answers.append(firmwareAnswer(fault));
+    return answers;
+}
 } // namespace
 
 SimulatedDevice::SimulatedDevice(const QString &rootPath, Settings deviceSettings, QObject *parent)
     : QObject(parent)
     , root(rootPath)
     , settings(std::move(deviceSettings))
-    , firmware(settings.scenario.firmware)
+    , firmware(answersOf(settings.scenario))
     , random(settings.seed)
 {
     if (settings.scenario.hasSensors)
@@ -79,7 +87,7 @@ QString SimulatedDevice::environmentLines() const
 double SimulatedDevice::now(const DayCurve &curve) const
 {
     const double seconds = double(clock.elapsed()) / 1000 * settings.speed;
-    return curve.at(START_OF_RUN + seconds, settings.seed);
+    return curve.at(startOfRun + seconds, settings.seed);
 }
 
 void SimulatedDevice::refresh()

@@ -4,16 +4,20 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 Environment::Environment()
     : previousDirectory(QDir::currentPath())
 {
     Q_INIT_RESOURCE(ZellQt);
-    QDir(directory.path()).mkpath(QStringLiteral("work"));
-    QDir(directory.path()).mkpath(QStringLiteral("device/dev"));
+    // The program leaves its wireless scan beside its working directory.
+    for (const char *folder : {"work", "resource"})
+        QDir(directory.path()).mkpath(QLatin1String(folder));
     QDir::setCurrent(directory.filePath(QStringLiteral("work")));
     qputenv("ZELL_DEVICE_ROOT", QFile::encodeName(directory.filePath(QStringLiteral("device"))));
+    qputenv("PATH", QFile::encodeName(device().programFolder()) + ':' + qgetenv("PATH"));
+    QString problem;
+    if (!device().create({}, &problem))
+        qFatal("%s", qPrintable(problem));
     substituteFonts();
     QFile style(QStringLiteral(":/resource/qss/ZellQt.qss"));
     if (style.open(QIODevice::ReadOnly))
@@ -25,24 +29,21 @@ Environment::~Environment()
     QDir::setCurrent(previousDirectory);
 }
 
-QString Environment::deviceRoot()
+simulator::DeviceRoot Environment::device()
 {
-    return qEnvironmentVariable("ZELL_DEVICE_ROOT");
+    return simulator::DeviceRoot(qEnvironmentVariable("ZELL_DEVICE_ROOT"));
 }
 
 void Environment::writeDeviceFile(const QString &path, const QByteArray &content)
 {
-    const QString fullPath = deviceRoot() + path;
-    QDir().mkpath(QFileInfo(fullPath).path());
-    QFile file(fullPath);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(fullPath));
+    if (!simulator::replaceFile(deviceRoot() + path, content))
+        qFatal("cannot write %s", qPrintable(path));
 }
 
 void Environment::writeDeviceScript(const QString &path, const QByteArray &commands)
 {
-    writeDeviceFile(path, "#!/bin/sh\n" + commands + "\n");
-    QFile::setPermissions(deviceRoot() + path, QFile::ReadUser | QFile::WriteUser | QFile::ExeUser);
+    if (!simulator::replaceFile(deviceRoot() + path, "#!/bin/sh\n" + commands + "\n", true))
+        qFatal("cannot write %s", qPrintable(path));
 }
 
 QByteArray Environment::contentOf(const QString &path)

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "simulator/DeviceRoot.h"
+
 #include <QApplication>
 #include <QQuickWindow>
 #include <QTemporaryDir>
 #include <QTest>
 
-/// What a test of the program stands on: an empty working directory and an empty device root of its
-/// own, removed at the end, with the resources, fonts and style sheet of the product.
+/// What a test of the program stands on: an empty working directory and a simulated device of its
+/// own, without readings and networks, both removed at the end; the resources, fonts and style
+/// sheet of the product.
 class Environment
 {
 public:
@@ -14,8 +17,11 @@ public:
     Environment();
     ~Environment();
 
+    /// The simulated device of this process.
+    static simulator::DeviceRoot device();
+
     /// The folder that stands for the root of the device ("<root>/dev", "<root>/sys" ...).
-    static QString deviceRoot();
+    static QString deviceRoot() { return device().path(); }
 
     /// Writes @p content to @p path below the device root, making the folders it needs.
     static void writeDeviceFile(const QString &path, const QByteArray &content);

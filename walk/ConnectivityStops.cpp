@@ -1,5 +1,7 @@
-#include "walk/FirmwareServer.h"
+#include "simulator/FirmwareServer.h"
 #include "walk/Stops.h"
+
+using namespace std::chrono_literals;
 
 namespace {
 constexpr QPoint firstNetwork(427, 120);
@@ -86,8 +88,27 @@ std::vector<Stop> locationStops()
     };
 }
 
-std::vector<Stop> firmwareStops(const std::shared_ptr<FirmwareServer> &server)
+// The first download stays at 46 per cent until it is cut off, the second one is there at once.
+std::shared_ptr<simulator::FirmwareServer> firmwareServer()
 {
+    const simulator::FirmwareAnswer whole =
+        simulator::firmwareAnswer(simulator::FirmwareFault::None);
+    simulator::FirmwareAnswer part = whole;
+    part.bodySize = whole.bodySize * 46 / 100;
+    // A client reports progress no sooner than a tenth of a second after it began.
+    part.chunkSize = part.bodySize / 2;
+    part.pause = 300ms;
+    part.ending = simulator::FirmwareAnswer::Ending::Stall;
+    auto server = std::make_shared<simulator::FirmwareServer>(QList{part, whole});
+    if (!server->listen())
+        qFatal("no port for the firmware server: %s", qPrintable(server->errorString()));
+    qputenv("ZELL_FIRMWARE_URL", server->url().toLatin1());
+    return server;
+}
+
+std::vector<Stop> firmwareStops()
+{
+    const auto server = firmwareServer();
     return {
         {"firmware-idle", backAndOpen("option_updateFirmware")},
         {"firmware-found", tapping({"button_checkUpdate"})},
@@ -100,17 +121,16 @@ std::vector<Stop> firmwareStops(const std::shared_ptr<FirmwareServer> &server)
          }},
         {"firmware-retry",
          [server](Walk &walk) {
-             server->drop();
+             server->dropClients();
              walk.waitFor(QStringLiteral("the retry page"),
                           [&walk] { return walk.sees(QStringLiteral("button_retry")); });
              walk.settle();
          }},
         {"firmware-after-retry", tapping({"button_retry"})},
         {"firmware-install",
-         [server](Walk &walk) {
+         [](Walk &walk) {
              backAndOpen("option_updateFirmware")(walk);
              tapping({"button_checkUpdate", "button_update"})(walk);
-             server->finish();
              walk.waitFor(QStringLiteral("the install page"),
                           [&walk] { return walk.sees(QStringLiteral("label_installInfo")); });
              walk.settle();
@@ -121,9 +141,8 @@ std::vector<Stop> firmwareStops(const std::shared_ptr<FirmwareServer> &server)
 
 std::vector<Stop> connectivityStops()
 {
-    const auto server = std::make_shared<FirmwareServer>();
     std::vector<Stop> stops;
-    for (const auto &part : {wifiStops(), pairingStops(), locationStops(), firmwareStops(server)})
+    for (const auto &part : {wifiStops(), pairingStops(), locationStops(), firmwareStops()})
         stops.insert(stops.end(), part.begin(), part.end());
     return stops;
 }

@@ -49,7 +49,7 @@ std::vector<Stop> mainScreenStops()
         {"main-negative",
          [](Walk &walk) {
              toPreviousPage(walk);
-             walk.setReadings(-5500, 99900);
+             walk.setReadings(-5.5, 99.9);
              walk.settle();
          }},
         {"history-24h", tapping({"button_history"})},

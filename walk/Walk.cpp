@@ -1,12 +1,12 @@
 #include "walk/Walk.h"
 
 #include "acquisition/GetData.h"
+#include "simulator/SysfsText.h"
 #include "testkit/Environment.h"
 #include "testkit/Touch.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
@@ -20,8 +20,6 @@ constexpr std::chrono::milliseconds lookInterval{60};
 constexpr std::chrono::milliseconds soon{400};
 constexpr int looksOfStillness = 3;
 constexpr int freeGroundY = 330;
-const QString sensorFile =
-    QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity");
 
 /// The widget at @p position, those inside a graphics view included.
 QWidget *widgetUnder(QWidget *root, const QPoint &position)
@@ -52,11 +50,11 @@ QWidget *widgetUnder(QWidget *root, const QPoint &position)
 
 Walk::Walk()
 {
-    // Where the program leaves its Wi-Fi scan, beside the working directory.
-    QDir().mkpath("../resource");
     setNetworks({"Home-5G", "Studio", "Balcony", "Guest", "Reading-Room", "Workshop"});
-    Environment::writeDeviceFile("/sys/devices/virtual/input/input3/light_val", "168");
-    setReadings(23456, 40200);
+    const QString lightFile = Environment::device().lightFile();
+    if (!simulator::replaceFile(lightFile, simulator::lightText(168)))
+        qFatal("cannot write %s", qPrintable(lightFile));
+    setReadings(23.456, 40.2);
     openWindow();
 }
 
@@ -219,17 +217,17 @@ void Walk::rearrange(const QString &neighbour, const QStringList &hidden, const 
     settle();
 }
 
-void Walk::setReadings(int milliDegrees, int milliPercent)
+void Walk::setReadings(double celsius, double percent)
 {
-    const QString line = QStringLiteral("temp = %1, humidity = %2\n");
-    Environment::writeDeviceFile(sensorFile,
-                                 line.arg(milliDegrees, 5).arg(milliPercent, 5).toLatin1());
+    const QString climateFile = Environment::device().climateFile();
+    if (!simulator::replaceFile(climateFile, simulator::climateText(celsius, percent)))
+        qFatal("cannot write %s", qPrintable(climateFile));
     readSensorNow();
 }
 
 void Walk::breakSensor()
 {
-    QFile::remove(Environment::deviceRoot() + sensorFile);
+    QFile::remove(Environment::device().climateFile());
     readSensorNow();
 }
 
@@ -241,16 +239,8 @@ void Walk::readSensorNow() const
 
 void Walk::setNetworks(const QStringList &names)
 {
-    QByteArray script = "#!/bin/sh\ncat <<'END'\n";
-    for (const QString &name : names)
-        script += QByteArray(20, ' ') + "ESSID:\"" + name.toUtf8() + "\"\n";
-    const QString folder = QStringLiteral("/usr/bin");
-    Environment::writeDeviceFile(folder + "/iwlist", script + "END\n");
-    QFile::setPermissions(Environment::deviceRoot() + folder + "/iwlist",
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QByteArray path = QFile::encodeName(Environment::deviceRoot() + folder) + ':';
-    if (!qgetenv("PATH").startsWith(path))
-        qputenv("PATH", path + qgetenv("PATH"));
+    if (!Environment::device().setNetworks(names))
+        qFatal("cannot write the scanner");
 }
 
 void Walk::waitFor(const QString &what, const std::function<bool()> &condition) const

@@ -52,8 +52,8 @@ public:
     /// Hides and shows what stands beside @p neighbour, for states that nothing brings about yet.
     void rearrange(const QString &neighbour, const QStringList &hidden, const QStringList &shown);
 
-    /// Gives the sensor new readings, in thousandths, and lets the schedulers read them.
-    void setReadings(int milliDegrees, int milliPercent);
+    /// Gives the sensor new readings and lets the schedulers read them.
+    void setReadings(double celsius, double percent);
     void breakSensor();
     /// What the Wi-Fi scanner finds from now on.
     void setNetworks(const QStringList &names);

@@ -1,6 +1,7 @@
 #include "acquisition/GetData.h"
 #include "benchmarks/support/Yardstick.h"
 #include "shell/Global_cfg.h"
+#include "simulator/SysfsText.h"
 #include "store/ZellDatabase.h"
 #include "testkit/Environment.h"
 
@@ -9,9 +10,9 @@ namespace {
 void tickOfAllSchedulers(benchmark::State &state)
 {
     constexpr double limit = 80;
-    Environment::writeDeviceFile(
-        QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity"),
-        "temp = 23456, humidity = 45678\n");
+    if (!simulator::replaceFile(Environment::device().climateFile(),
+                                simulator::climateText(23.456, 45.678)))
+        qFatal("no sensor");
     ZellDatabase database;
     zelldatabase = &database;
     for (int row = 1; row <= GETDATA_MAX_OBJECTS; ++row)

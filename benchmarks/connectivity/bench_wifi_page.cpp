@@ -3,28 +3,10 @@
 #include "testkit/Environment.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QListView>
 #include <QScrollBar>
 
 namespace {
-// An `iwlist` that finds 500 networks at once, so that little but the page itself is measured.
-void installScanner()
-{
-    static const bool installed = [] {
-        QByteArray script = "#!/bin/sh\ncat <<'END'\n";
-        for (int i = 0; i < 500; ++i)
-            script += QByteArray(20, ' ') + "ESSID:\"Network " + QByteArray::number(i) + "\"\n";
-        Environment::writeDeviceFile("/scanner/iwlist", script + "END\n");
-        const QString folder = Environment::deviceRoot() + "/scanner";
-        QFile::setPermissions(folder + "/iwlist", QFile::ReadOwner | QFile::ExeOwner);
-        qputenv("PATH", QFile::encodeName(folder) + ':' + qgetenv("PATH"));
-        return QDir().mkpath("../resource");
-    }();
-    if (!installed)
-        qFatal("no scanner");
-}
-
 void repaint()
 {
     QCoreApplication::sendPostedEvents();
@@ -35,7 +17,8 @@ struct Screen
 {
     Screen()
     {
-        installScanner();
+        if (!Environment::device().setNetworks(QStringList(500, QStringLiteral("Network"))))
+            qFatal("no scanner");
         window.resize(854, 480);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window))

@@ -73,7 +73,7 @@ private slots:
         QTRY_COMPARE(uart->findChildren<QSerialPort *>().size(), 1);
         auto *port = uart->findChild<QSerialPort *>();
         const QSignalSpy errors(port, &QSerialPort::errorOccurred);
-        line->hangUp();
+        line->pullOut();
         QTRY_VERIFY(!port->isOpen());
         QVERIFY(log.count("UART lost") == 1 && errors.size() < 10);
         line.reset();

@@ -1,9 +1,10 @@
 #include "connectivity/FirmwareDownload.h"
 #include "connectivity/updateFirmware.h"
+#include "simulator/FirmwareServer.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
 #include "testkit/Touch.h"
-#include "tests/connectivity/PackageServer.h"
 
 #include <QLabel>
 #include <QNetworkAccessManager>
@@ -14,15 +15,24 @@
 #include <QStackedWidget>
 
 using namespace std::chrono_literals;
+using simulator::FirmwareAnswer;
+using simulator::FirmwareServer;
 
 namespace {
-constexpr auto package = "/zell/ZellQt-1.1.pkg";
+constexpr auto stalls = FirmwareAnswer::Ending::Stall;
+constexpr auto closes = FirmwareAnswer::Ending::Close;
 
 QByteArray ok(const QByteArray &body, qint64 length)
 {
     return "HTTP/1.1 200 OK\r\n" +
            (length < 0 ? "" : "Content-Length: " + QByteArray::number(length) + "\r\n") + "\r\n" +
            body;
+}
+
+FirmwareAnswer withoutEnd()
+{
+    return {
+        .head = ok("a", -1), .bodySize = -1, .chunkSize = 256 * simulator::kibibyte, .pause = 0ms};
 }
 
 qint64 residentBytes()
@@ -60,46 +70,45 @@ private slots:
 
     void everyServerEndsOnAPageWithAWayBack_data()
     {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<Then>("then");
-        QTest::addColumn<bool>("installs");
-        const QByteArray loop =
-            "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: /again\r\n\r\n";
+        const QByteArray circle = "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " +
+                                  QByteArray(simulator::firmwarePath) + "\r\n\r\n";
         const QByteArray missing = "HTTP/1.1 404 No\r\nContent-Length: 2\r\n\r\nno";
-        QTest::newRow("whole package") << ok("abcdef", 6) << Then::Hold << true;
-        QTest::newRow("no length, closes") << ok("abcdef", -1) << Then::Close << true;
-        QTest::newRow("empty package") << ok("", 0) << Then::Hold << true;
-        QTest::newRow("moves in circles") << loop << Then::Hold << false;
-        QTest::newRow("not found") << missing << Then::Hold << false;
-        QTest::newRow("closes early") << ok("abc", 6) << Then::Close << false;
-        QTest::newRow("no HTTP") << QByteArray("\0\xff\n\n", 4) << Then::Close << false;
-        QTest::newRow("silent") << QByteArray() << Then::Hold << false;
-        QTest::newRow("falls silent") << ok("abc", 6) << Then::Hold << false;
-        QTest::newRow("head without end")
-            << QByteArray("HTTP/1.1 200 OK\r\nX: ") << Then::SendForEver << false;
-        QTest::newRow("a byte now and then") << ok("a", -1) << Then::Trickle << false;
-        QTest::newRow("body without end") << ok("a", -1) << Then::SendForEver << false;
+        const QByteArray longHead = "HTTP/1.1 200 OK\r\nX: " + QByteArray(1 << 20, 'x');
+        const FirmwareAnswer drops{
+            .head = ok("a", -1), .bodySize = -1, .chunkSize = 1, .pause = 10ms};
+        addRows<Server>({
+            {"whole package", {.head = ok("abcdef", 6), .ending = stalls}, true},
+            {"no length, closes", {.head = ok("abcdef", -1), .ending = closes}, true},
+            {"empty package", {.head = ok("", 0), .ending = stalls}, true},
+            {"moves in circles", {.head = circle, .ending = closes}},
+            {"not found", {.head = missing, .ending = stalls}},
+            {"closes early", {.head = ok("abc", 6), .ending = closes}},
+            {"no HTTP", {.head = QByteArray("\0\xff\n\n", 4), .ending = closes}},
+            {"silent", {.head = {}, .ending = stalls}},
+            {"falls silent", {.head = ok("abc", 6), .ending = stalls}},
+            {"head without end", {.head = longHead, .ending = stalls}},
+            {"a byte now and then", drops},
+            {"body without end", withoutEnd()},
+        });
     }
 
     void everyServerEndsOnAPageWithAWayBack()
     {
-        QFETCH(QByteArray, answer);
-        QFETCH(Then, then);
-        QFETCH(bool, installs);
-        PackageServer server(answer, then);
+        QFETCH(Server, row);
+        FirmwareServer server({row.answer});
         QSignalSpy left(page, &updateFirmware::signal_backDefaultPage);
-        if (then == Then::Trickle)
+        if (row.answer.chunkSize == 1)
             page->setLimits({300ms, 2s, 1 << 20});
         const qint64 before = residentBytes();
-        startDownload(server.address(package));
+        startDownload(server);
         QVERIFY(!shown("button_back"));
-        QVERIFY(waitFor(installs ? "page_installFirmware" : "page_retryFirmware"));
+        QVERIFY(waitFor(row.installs ? "page_installFirmware" : "page_retryFirmware"));
         // A redirect is followed a few hops, not for ever.
-        QVERIFY(server.requests < 20);
+        QVERIFY(server.downloads() < 20);
         QVERIFY(residentBytes() - before < 24e6);
         tap(shown("button_back"));
         // The retry page runs its slots twice per click.
-        QCOMPARE(left.count(), installs ? 1 : 2);
+        QCOMPARE(left.count(), row.installs ? 1 : 2);
         QCOMPARE(QFileInfo("ZellQt-1.1.pkg").size(), 0);
         QVERIFY(QFile::remove("ZellQt-1.1.pkg"));
     }
@@ -115,8 +124,8 @@ private slots:
     void progressIsShownAndLogged()
     {
         MessageLog log;
-        PackageServer server(ok(QByteArray("ab\0cdefg", 8), 16), Then::Hold);
-        startDownload(server.address(package));
+        FirmwareServer server({{.head = ok(QByteArray("ab\0cdefg", 8), 16), .ending = stalls}});
+        startDownload(server);
         auto *text = page->findChild<QLabel *>("label_process");
         QTRY_COMPARE(text->text(), "正在下载 ... 50%\n");
         page->on_downloadProgress(qint64(1) << 33, -1);
@@ -131,22 +140,22 @@ private slots:
 
     void secondCheckAndReportOfNoBytes()
     {
-        PackageServer server(ok("abcdef", 6), Then::Hold);
+        FirmwareServer server({{.head = ok("abcdef", 6), .ending = stalls}});
         page->check_versionUpdate();
-        startDownload(server.address(package));
+        startDownload(server);
         page->on_downloadProgress(0, 6);
         QVERIFY(shown("page_retryFirmware"));
         QTRY_COMPARE(page->findChildren<QWidget *>("installFirmware").size(), 2);
-        QCOMPARE(server.requests, 2);
+        QCOMPARE(server.downloads(), 2);
     }
 
     void anyReplyIsReadAndDeleted()
     {
-        PackageServer server(ok(QByteArray(100000, 'b') + QByteArray("\0c", 2), 100002),
-                             Then::Hold);
+        const QByteArray body = QByteArray(100000, 'b') + QByteArray("\0c", 2);
+        FirmwareServer server({{.head = ok(body, body.size()), .ending = stalls}});
+        QVERIFY(server.listen());
         QNetworkAccessManager manager;
-        const QPointer<QNetworkReply> reply =
-            manager.get(QNetworkRequest(QUrl(server.address(package))));
+        const QPointer<QNetworkReply> reply = manager.get(QNetworkRequest(QUrl(server.url())));
         QTRY_VERIFY(reply->isFinished());
         MessageLog log;
         page->finish_reply(reply);
@@ -157,21 +166,33 @@ private slots:
 
     void pageMayGoWhileItsDownloadRuns()
     {
-        PackageServer server(ok("a", -1), Then::SendForEver);
-        startDownload(server.address(package));
-        QTRY_VERIFY(server.sent > 1e6);
+        FirmwareServer server({withoutEnd()});
+        startDownload(server);
+        QTRY_VERIFY(server.bytesSent() > 1e6);
         page->on_downloadProgress(0, -1);
         tap(shown("button_back"));
-        QTRY_COMPARE(server.socket->state(), QAbstractSocket::UnconnectedState);
+        QTRY_COMPARE(server.clients(), 0);
         page->download_newVersion();
-        server.sent = 0;
-        QTRY_VERIFY(server.sent > 1e6);
+        const qint64 before = server.bytesSent();
+        QTRY_VERIFY(server.bytesSent() > before + 1e6);
         cleanup();
         init();
     }
 
 private:
+    struct Server
+    {
+        const char *name;
+        FirmwareAnswer answer;
+        bool installs = false;
+    };
+
     QWidget *shown(const char *name) { return visibleChild(page, name); }
+    void startDownload(FirmwareServer &server)
+    {
+        QVERIFY(server.listen());
+        startDownload(server.url().toLatin1());
+    }
     void startDownload(const QByteArray &address)
     {
         qputenv("ZELL_FIRMWARE_URL", address);

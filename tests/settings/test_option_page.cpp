@@ -51,6 +51,8 @@ private slots:
     void everyVisitIsFresh()
     {
         qputenv("ZELL_FIRMWARE_URL", "http://127.0.0.1:1/refused.pkg");
+        // The language page is to lead back to the menu, not to a restart.
+        QVERIFY(QFile::remove(Environment::deviceRoot() + "/bin/restartZellQt.sh"));
         auto *stack = page->findChild<QStackedWidget *>("stackedWidget");
         for (const Way &way : ways) {
             for (int visit = 1; visit <= 3; ++visit) {

@@ -2,8 +2,8 @@
 #include "shell/Global_cfg.h"
 #include "simulator/DeviceRoot.h"
 #include "simulator/FirmwareAnswer.h"
+#include "simulator/ScannerScript.h"
 #include "simulator/Scenario.h"
-#include "simulator/WifiScan.h"
 #include "testkit/Environment.h"
 
 #include <QProcess>
@@ -108,7 +108,7 @@ private slots:
     void scanShowsTheNetworks()
     {
         QFETCH(QStringList, networks);
-        QVERIFY(replaceFile("iwlist", wifiScannerScript(networks), true));
+        QVERIFY(replaceFile("iwlist", scannerScript(networks), true));
         QProcess shell;
         shell.start("/bin/sh", {"-c", "./iwlist wlan1 scanning|grep ESSID"});
         QVERIFY(shell.waitForFinished());
@@ -148,7 +148,7 @@ private slots:
         QTest::addColumn<QByteArray>("status");
         QTest::addColumn<qint64>("bodySize");
         QTest::newRow("package") << QByteArray("GET /zell/ZellQt-1.1.pkg?x=1 HTTP/1.1")
-                                 << QByteArray("200") << FIRMWARE_SIZE;
+                                 << QByteArray("200") << firmwareSize;
         QTest::newRow("head") << QByteArray("HEAD /zell/ZellQt-1.1.pkg HTTP/1.1")
                               << QByteArray("200") << qint64(0);
         QTest::newRow("other path")
@@ -162,7 +162,8 @@ private slots:
     void serverAnswersRequests()
     {
         QFETCH(QByteArray, request);
-        const FirmwareAnswer answer = answerTo(request + "\r\n\r\n", FirmwareFault::None);
+        const FirmwareAnswer answer =
+            answerTo(request + "\r\n\r\n", firmwareAnswer(FirmwareFault::None));
         QTEST(answer.head.mid(9, 3), "status");
         QTEST(answer.bodySize, "bodySize");
         QVERIFY(answer.head.endsWith("\r\n\r\n"));

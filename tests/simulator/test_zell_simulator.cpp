@@ -16,11 +16,9 @@
 using namespace simulator;
 
 namespace {
-const QString climatePath = "/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity";
-
 bool isGood(QByteArray burst)
 {
-    return burst.size() == FRAME_SIZE && PM2_5_dataHandle(&burst) != PM25_ERROR_DATA;
+    return burst.size() == frameSize && PM2_5_dataHandle(&burst) != PM25_ERROR_DATA;
 }
 
 QByteArray contentOf(const QString &path)
@@ -32,8 +30,9 @@ QByteArray contentOf(const QString &path)
 /// Waits until the device in @p root has written its next second.
 bool waitForSecond(const QString &root)
 {
-    const QByteArray before = contentOf(root + climatePath);
-    return QTest::qWaitFor([&] { return contentOf(root + climatePath) != before; });
+    const QString path = DeviceRoot(root).climateFile();
+    const QByteArray before = contentOf(path);
+    return QTest::qWaitFor([&] { return contentOf(path) != before; });
 }
 
 /// How many processes run with the device root @p root.
@@ -283,7 +282,8 @@ private slots:
     void filesAreReplacedAsAWhole()
     {
         SimulatorProcess simulator({"--speed", "20000", "--scenario", "cold"});
-        const QString path = simulator.environmentValue("ZELL_DEVICE_ROOT") + climatePath;
+        const QString path =
+            DeviceRoot(simulator.environmentValue("ZELL_DEVICE_ROOT")).climateFile();
         QFile held(path);
         QVERIFY(held.open(QIODevice::ReadOnly));
         const QByteArray text = held.readAll();
@@ -300,11 +300,11 @@ private slots:
         SimulatorProcess simulator({"--scenario", "bad-firmware"});
         const QUrl url(simulator.environmentValue("ZELL_FIRMWARE_URL"));
         using Reply = QNetworkReply;
-        constexpr qint64 whole = FIRMWARE_SIZE;
+        constexpr qint64 whole = firmwareSize;
         const Download downloads[] = {
             {"refused", Reply::ContentAccessDenied, 0, 0},
             {"cut off", Reply::RemoteHostClosedError, whole / 2, whole},
-            {"stalled", Reply::OperationCanceledError, 16 * KIBIBYTE, whole},
+            {"stalled", Reply::OperationCanceledError, 16 * kibibyte, whole},
             {"endless", Reply::OperationCanceledError, 2 * whole, -1},
             {"unknown length", Reply::NoError, whole, -1},
             {"zero report", Reply::NoError, 0, 0},

@@ -1,11 +1,9 @@
-#include "simulator/WifiScan.h"
+#include "simulator/ScannerScript.h"
 
 #include <algorithm>
 
 namespace simulator {
 namespace {
-constexpr auto wifiInterface = "wlan1";
-
 QByteArray cell(int number, const QString &name)
 {
     const int channel = 1 + (number * 5) % 13;
@@ -28,24 +26,21 @@ QByteArray cell(int number, const QString &name)
 }
 } // namespace
 
-QByteArray wifiScan(const QString &interface, const QStringList &networks)
+QByteArray scannerScript(const QStringList &networks)
 {
-    QByteArray scan = interface.toUtf8() + "     Scan completed :\n";
-    for (int i = 0; i < networks.size(); ++i)
-        scan += cell(i + 1, networks.at(i));
-    return scan;
-}
-
-QByteArray wifiScannerScript(const QStringList &networks)
-{
-    const QByteArray head = "#!/bin/sh\n# The wireless scanner of the simulated device.\n";
+    const QByteArray head =
+        "#!/bin/sh\n"
+        "# The wireless scanner of the simulated device.\n"
+        "complain() { echo \"$1\" >&2; exit 255; }\n"
+        "[ \"$*\" = 'wlan1 scanning' ] || complain \"iwlist: no such command\"\n";
     if (networks.isEmpty())
         return head +
-               "echo \"${1:-wlan1}     Interface doesn't support scanning : Network is down\" >&2\n"
-               "exit 255\n";
+               "complain \"wlan1     Interface doesn't support scanning : Network is down\"\n";
+    QByteArray scan;
+    for (int i = 0; i < networks.size(); ++i)
+        scan += cell(i + 1, networks.at(i));
     // The quoted end mark keeps the shell from reading anything into the names.
-    return head + "cat <<'END OF SCAN'\n" + wifiScan(QLatin1String(wifiInterface), networks) +
-           "END OF SCAN\n";
+    return head + "cat <<'END OF SCAN'\nwlan1     Scan completed :\n" + scan + "END OF SCAN\n";
 }
 
 } // namespace simulator

@@ -1,4 +1,4 @@
-#include "simulator/SensorText.h"
+#include "simulator/SysfsText.h"
 
 #include <QString>
 #include <algorithm>
