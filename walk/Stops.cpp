@@ -1,5 +1,8 @@
 #include "walk/Stops.h"
 
+#include "walk/Languages.h"
+#include "walk/LayoutCheck.h"
+
 Step tapping(const QStringList &objectNames)
 {
     return [objectNames](Walk &walk) {
@@ -27,13 +30,20 @@ Step calling(const char *className, const char *slot)
     };
 }
 
-std::vector<Stop> wholeWalk()
+QStringList walkThrough(const Language &language,
+                        const std::function<void(const QString &, const QImage &)> &look)
 {
-    std::vector<Stop> walk;
+    const InLanguage spoken(language);
+    QStringList findings;
+    Walk walk;
     for (const auto &part :
-         {mainScreenStops(), settingsStops(), connectivityStops(), languageStops()})
-        walk.insert(walk.end(), part.begin(), part.end());
-    for (std::size_t index = 0; index < walk.size(); ++index)
-        walk[index].name.prepend(QStringLiteral("%1-").arg(index + 1, 2, 10, QLatin1Char('0')));
-    return walk;
+         {mainScreenStops(), settingsStops(), connectivityStops(), languageStops()}) {
+        for (const Stop &stop : part) {
+            stop.go(walk);
+            look(stop.name, walk.picture());
+            for (const QString &finding : layoutFindings(walk.screen()))
+                findings.append(stop.name + QStringLiteral(": ") + finding);
+        }
+    }
+    return findings;
 }

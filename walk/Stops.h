@@ -1,9 +1,25 @@
 #pragma once
 
+#include "pages/Language.h"
 #include "walk/Walk.h"
+
+#include <vector>
 
 /// How to get somewhere from the stop before.
 using Step = std::function<void(Walk &)>;
+
+/// One stop of the walk. Its name is that of its picture, too: a stop more renames no other.
+struct Stop
+{
+    QString name;
+    Step go;
+};
+
+/// Walks in @p language from stop to stop, every page and every state that a
+/// person can reach, and hands each picture to @p look with the name of its stop. Returns what a
+/// person would stumble over on the way, a line each.
+QStringList walkThrough(const Language &language,
+                        const std::function<void(const QString &, const QImage &)> &look);
 
 /// Taps the widgets named @p objectNames one after the other, letting the screen settle after each.
 Step tapping(const QStringList &objectNames);

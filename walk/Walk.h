@@ -6,7 +6,6 @@
 #include <QStringList>
 #include <functional>
 #include <memory>
-#include <vector>
 
 /// A person in front of the real window: finds things by object name, touches them, waits until the
 /// screen stands still, and looks. Whatever cannot be done ends the program with a message.
@@ -80,14 +79,3 @@ private:
     QPoint finger;
     QImage kept;
 };
-
-/// One stop of the walk: how to get there from the stop before, and the name of its picture.
-struct Stop
-{
-    QString name;
-    std::function<void(Walk &)> go;
-};
-
-/// The whole walk: every page and every state that a person can reach, in the order of walking.
-/// The names begin with a number, so that they sort like the walk.
-std::vector<Stop> wholeWalk();

@@ -1,100 +1,41 @@
 #include "store/ZellDatabase.h"
 #include "testkit/Environment.h"
 #include "testkit/FixedClock.h"
+#include "walk/ContactSheet.h"
+#include "walk/Film.h"
 #include "walk/Languages.h"
-#include "walk/LayoutCheck.h"
-#include "walk/Walk.h"
+#include "walk/Stops.h"
 
 #include <QDir>
-#include <QPainter>
-#include <QQuickWindow>
 #include <QTextStream>
-#include <QTimeLine>
 
 namespace {
-constexpr int columns = 5;
-constexpr QSize thumbnail(427, 240);
-constexpr int gap = 16;
-constexpr int caption = 32;
-constexpr int frameTime = 50;
-constexpr int leftX = 40;
-constexpr int rightX = 130;
-
-QImage contactSheet(const std::vector<Stop> &stops, const QList<QImage> &pictures)
+QDir folderOf(const QDir &target, const QString &name)
 {
-    const int rows = (int(pictures.size()) + columns - 1) / columns;
-    const QSize cell(thumbnail.width() + gap, thumbnail.height() + caption + gap);
-    QImage sheet(columns * cell.width() + gap, rows * cell.height() + gap, QImage::Format_RGB32);
-    sheet.fill(Qt::white);
-    QPainter painter(&sheet);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    QFont font(QStringLiteral("Heiti SC"));
-    font.setPixelSize(20);
-    painter.setFont(font);
-    for (int index = 0; index < pictures.size(); ++index) {
-        const QPoint corner(gap + index % columns * cell.width(),
-                            gap + index / columns * cell.height());
-        painter.drawImage(QRect(corner, thumbnail), pictures[index]);
-        painter.drawText(
-            QRect(corner + QPoint(0, thumbnail.height()), QSize(thumbnail.width(), caption)),
-            Qt::AlignLeft | Qt::AlignVCenter, stops[std::size_t(index)].name);
-    }
-    return sheet;
+    const QDir folder(target.filePath(name));
+    if (!folder.mkpath(QStringLiteral(".")))
+        qFatal("cannot make %s", qPrintable(folder.path()));
+    return folder;
 }
 
-/// Walks in one language and writes every picture; returns the number of findings.
-int photograph(const QString &language, const QDir &target, QTextStream &out)
+// Walks in one language and writes every picture; returns the findings.
+QStringList photograph(const QString &language, const QDir &target)
 {
-    const InLanguage spoken(Language(language + QStringLiteral(".qm")));
-    const QDir folder(target.filePath(language));
-    folder.mkpath(QStringLiteral("."));
-    const std::vector<Stop> stops = wholeWalk();
-    QList<QImage> pictures;
-    int findings = 0;
-    Walk walk;
-    for (const Stop &stop : stops) {
-        stop.go(walk);
-        pictures.append(walk.picture());
-        if (!pictures.constLast().save(folder.filePath(stop.name + QStringLiteral(".png"))))
-            qFatal("cannot write to %s", qPrintable(folder.path()));
-        for (const QString &finding : layoutFindings(walk.screen())) {
-            out << language << ' ' << stop.name << ": " << finding << Qt::endl;
-            ++findings;
-        }
-    }
-    contactSheet(stops, pictures).save(target.filePath("contact-" + language + ".png"));
-    out << language << ": " << pictures.size() << " pictures" << Qt::endl;
+    const QDir folder = folderOf(target, language);
+    QList<NamedPicture> pictures;
+    const QStringList findings =
+        walkThrough(Language(language + QStringLiteral(".qm")),
+                    [&](const QString &stop, const QImage &picture) {
+                        pictures.append({stop, picture});
+                        if (!picture.save(folder.filePath(stop + QStringLiteral(".png"))))
+                            qFatal("cannot write to %s", qPrintable(folder.path()));
+                    });
+    contactSheet(pictures).save(target.filePath("contact-" + language + ".png"));
     return findings;
-}
-/// The main screen sliding, frame by frame: once over its three pages.
-void film(const QDir &target)
-{
-    const InLanguage spoken(Language("ZH_SIMPLE.qm"));
-    const QDir folder(target.filePath("slide"));
-    folder.mkpath(".");
-    Walk walk;
-    walk.settle();
-    auto *timeLine = walk.screen()->findChild<QTimeLine *>();
-    int frame = 0;
-    const auto slide = [&](int fromX, int toX) {
-        walk.startSwipe(fromX, toX);
-        timeLine->setPaused(true);
-        for (int time = 0; time <= timeLine->duration(); time += frameTime) {
-            timeLine->setCurrentTime(time);
-            const QString name = QStringLiteral("%1.png").arg(++frame, 3, 10, QLatin1Char('0'));
-            walk.picture().save(folder.filePath(name));
-        }
-        timeLine->setPaused(false);
-        walk.settle();
-    };
-    slide(rightX, leftX);
-    slide(leftX, rightX);
-    slide(leftX, rightX);
-    slide(rightX, leftX);
 }
 } // namespace
 
-/// Takes a picture of every stop of the walk in three languages: zell-shots DIR [LANGUAGE...].
+// Takes a picture of every stop of the walk in three languages: zell-shots DIR [LANGUAGE...].
 int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -122,10 +63,15 @@ int main(int argc, char *argv[])
     const Environment environment;
     const auto database = std::make_unique<ZellDatabase>();
     zelldatabase = database.get();
-    int findings = 0;
-    for (const QString &language : languages)
-        findings += photograph(language, target, out);
-    film(target);
-    out << findings << " findings" << Qt::endl;
-    return findings == 0 ? 0 : 1;
+    qsizetype count = 0;
+    for (const QString &language : languages) {
+        const QStringList findings = photograph(language, target);
+        for (const QString &finding : findings)
+            out << language << ' ' << finding << Qt::endl;
+        count += findings.size();
+    }
+    const InLanguage spoken(Language("ZH_SIMPLE.qm"));
+    filmSlide(folderOf(target, QStringLiteral("slide")));
+    out << count << " findings" << Qt::endl;
+    return count == 0 ? 0 : 1;
 }
