@@ -1,14 +1,19 @@
 #include "connectivity/WifiScan.h"
 
+#include "device/Command.h"
 #include "device/DevicePath.h"
 
 #include <QDebug>
 #include <QIODevice>
 
 namespace {
+using namespace std::chrono_literals;
+
+constexpr auto scanLimit = 20s;
 constexpr int nameStart = 27;
 constexpr qsizetype mostNetworks = 1000;
 constexpr qint64 mostBytes = 8LL * 1024 * 1024;
+constexpr qint64 shellBlock = 512;
 constexpr qint64 mostBytesOfLine = 1024;
 
 QString networkName(QByteArrayView line)
@@ -32,6 +37,13 @@ QString scanCommand(const QString &directory)
 {
     return QStringLiteral("iwlist ") + QStringLiteral("wlan1") +
            QStringLiteral(" scanning|grep ESSID > ") + shellQuoted(scanFilePath(directory));
+}
+
+void runScan(const QString &command)
+{
+    // Not a limit for the reader alone: a scanner that never ends would fill the disk.
+    const QString room = QStringLiteral("ulimit -f %1; ").arg(mostBytes / shellBlock);
+    runCommand(room + command, scanLimit);
 }
 
 QStringList readNetworkNames(QIODevice &scan)

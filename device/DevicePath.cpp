@@ -1,5 +1,7 @@
 #include "device/DevicePath.h"
 
+#include <QRegularExpression>
+
 namespace {
 QString deviceRoot()
 {
@@ -20,6 +22,9 @@ QString deviceSerialPort(const QString &portName)
 
 QString shellQuoted(const QString &text)
 {
+    static const QRegularExpression plainWord(QStringLiteral("\\A[A-Za-z0-9._/-]+\\z"));
+    if (plainWord.match(text).hasMatch())
+        return text;
     QString quoted = text;
     quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
     return QLatin1Char('\'') + quoted + QLatin1Char('\'');

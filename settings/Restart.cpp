@@ -1,34 +1,16 @@
 #include "settings/Restart.h"
 
+#include "device/Command.h"
 #include "device/DevicePath.h"
 
 #include <QApplication>
-#include <QDebug>
 #include <QPointer>
-#include <QProcess>
 #include <QWidget>
-#include <chrono>
 
 namespace {
-constexpr std::chrono::milliseconds scriptLimit{5000};
+using namespace std::chrono_literals;
 
-// A script that hangs is left running: ended halfway it might have stopped this program already and
-// not started it again.
-bool runScript()
-{
-    auto *script = new QProcess(qApp);
-    script->setProcessChannelMode(QProcess::ForwardedChannels);
-    script->start(devicePath(QStringLiteral("/bin/restartZellQt.sh")), QStringList());
-    script->waitForFinished(int(scriptLimit.count()));
-    const bool done = script->state() == QProcess::NotRunning &&
-                      script->error() == QProcess::UnknownError &&
-                      script->exitStatus() == QProcess::NormalExit && script->exitCode() == 0;
-    if (!done)
-        qDebug() << "restart script failed:" << script->errorString() << script->exitCode();
-    if (script->state() == QProcess::NotRunning)
-        delete script;
-    return done;
-}
+constexpr auto scriptLimit = 5s;
 } // namespace
 
 void restartProgram()
@@ -39,7 +21,10 @@ void restartProgram()
             windows.append(window);
     }
     QApplication::closeAllWindows();
-    if (runScript())
+    const QString script = shellQuoted(devicePath(QStringLiteral("/bin/restartZellQt.sh")));
+    // A script that hangs is left running: ended halfway it might have stopped this program already
+    // and not started it again.
+    if (runCommand(script, scriptLimit, AtLimit::LeaveRunning) == CommandEnd::Succeeded)
         return;
 
     // Shown before the event loop turns, they also keep it from ending with its last window.

@@ -4,9 +4,11 @@
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/PictureCompare.h"
+#include "testkit/TableRows.h"
 
 #include <QAbstractItemModelTester>
 #include <QBuffer>
+#include <QDir>
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QTimer>
@@ -29,6 +31,15 @@ QVariantList column(const QAbstractItemModel &model, int role)
         values.append(model.index(row, 0).data(role));
     return values;
 }
+
+struct Scan
+{
+    const char *name;
+    QByteArray text;
+    QStringList networks;
+};
+
+const QByteArray megabyte(1 << 20, 'n');
 
 QByteArray scanLine(const QByteArray &name)
 {
@@ -106,27 +117,52 @@ private slots:
         model.toConnect(0);
     }
 
+    void scanIsCutIntoNames_data()
+    {
+        addRows<Scan>({
+            {"order and doubles", scanLine("B") + scanLine("A") + scanLine("B"), {"B", "A", "B"}},
+            {"foreign line end", scanLine("A").chopped(1) + "\r\n", {"A"}},
+            {"short lines", "ESSID\n\nx", {"", "", ""}},
+            {"just no name", QByteArray(27, 'x') + "\n" + QByteArray(28, 'x'), {"", ""}},
+            {"quotes", scanLine("it's \"mine\""), {"it's \"mine\""}},
+            {"right to left", scanLine("שלום"), {"שלום"}},
+            {"symbols", scanLine("咖啡☕📶"), {"咖啡☕📶"}},
+            {"no text",
+             scanLine(QByteArray("a\0\xff\x01", 4)),
+             {QString("a") + QChar(0) + QChar(0xfffd) + QChar(1)}},
+            {"endless line", scanLine(megabyte) + scanLine("B"), {QString(1024 - 28, 'n'), "B"}},
+        });
+    }
+
     void scanIsCutIntoNames()
     {
-        const QByteArray megabyte(1 << 20, 'n');
-        const std::pair<QByteArray, QStringList> scans[] = {
-            {scanLine("B") + scanLine("A") + scanLine("B"), {"B", "A", "B"}},
-            {scanLine("A").chopped(1) + "\r\n", {"A"}},
-            {"ESSID\n\nx", {"", "", ""}},
-            {QByteArray(27, 'x') + "\n" + QByteArray(28, 'x'), {"", ""}},
-            {scanLine("it's \"mine\"") + scanLine("שלום"), {"it's \"mine\"", "שלום"}},
-            {scanLine("咖啡☕📶"), {"咖啡☕📶"}},
-            {scanLine(QByteArray("a\0\xff\x01", 4)),
-             {QString("a") + QChar(0) + QChar(0xfffd) + QChar(1)}},
-            {scanLine(megabyte) + scanLine("B"), {QString(1024 - 27 - 1, 'n'), "B"}},
-        };
-        for (const auto &[scan, names] : scans)
-            QCOMPARE(namesIn(scan), names);
+        QFETCH(Scan, row);
+        QCOMPARE(namesIn(row.text), row.networks);
+    }
 
+    void longScanIsReadInPart()
+    {
         MessageLog log;
         QCOMPARE(namesIn(scanLine("A").repeated(100'000)).size(), 1000);
         QCOMPARE(namesIn(scanLine(megabyte).repeated(20)).size(), 8);
         QCOMPARE(log.count("scan result too long"), 2);
+    }
+
+    void scanCommandIsQuotedWhereNeedBe()
+    {
+        QCOMPARE(scanCommand("/var/lib/zell-1.0_a"),
+                 "iwlist wlan1 scanning|grep ESSID > "
+                 "/var/lib/zell-1.0_a/../resource/WiFi-SSID.txt");
+        QVERIFY(scanCommand("/a b").endsWith("> '/a b/../resource/WiFi-SSID.txt'"));
+    }
+
+    void endlessScanIsEnded()
+    {
+        Environment::writeDeviceScript("/iwlist", "yes 'ESSID:\"A\"'");
+        qputenv("PATH", Environment::deviceRoot().toLocal8Bit() + ':' + qgetenv("PATH"));
+        QVERIFY(QDir().mkpath("../resource"));
+        runScan(scanCommand("."));
+        QCOMPARE(QFileInfo(scanFilePath(".")).size(), 8 << 20);
     }
 
     void rowsLookAsTheyShould()

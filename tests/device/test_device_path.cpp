@@ -21,9 +21,11 @@ private slots:
     {
         const QString word = " a  b'c\"$(id);`id`|id&\\\n";
         QProcess shell;
-        shell.start("/bin/sh", {"-c", "printf '[%s]' " + shellQuoted(word) + shellQuoted("")});
+        shell.start("/bin/sh",
+                    {"-c", "printf '[%s]' " + shellQuoted(word) + ' ' + shellQuoted("")});
         QVERIFY(shell.waitForFinished());
-        QCOMPARE(shell.readAllStandardOutput(), "[" + word + "]");
+        QCOMPARE(shell.readAllStandardOutput(), "[" + word + "][]");
+        QCOMPARE(shellQuoted("/a-b_c.9/Z"), "/a-b_c.9/Z");
     }
 };
 

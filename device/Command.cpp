@@ -1,0 +1,73 @@
+#include "device/Command.h"
+
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <cerrno>
+#include <csignal>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+using namespace std::chrono_literals;
+
+constexpr auto timeToDie = 100ms;
+
+/// Starts a shell that leads a process group of its own. 0 where that fails.
+pid_t startShell(const QString &command)
+{
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF);
+    // Qt ignores it once it has used the network: a pipe whose reader is gone would never end.
+    sigset_t restored;
+    sigemptyset(&restored);
+    sigaddset(&restored, SIGPIPE);
+    posix_spawnattr_setsigdefault(&attributes, &restored);
+
+    QByteArray words[] = {"sh", "-c", command.toLocal8Bit()};
+    char *arguments[] = {words[0].data(), words[1].data(), words[2].data(), nullptr};
+    pid_t shell = 0;
+    const int error = posix_spawn(&shell, "/bin/sh", nullptr, &attributes, arguments, environ);
+    posix_spawnattr_destroy(&attributes);
+    return error == 0 ? shell : 0;
+}
+
+/// Whether @p process ends within @p limit. A kernel that cannot tell lets it take its time.
+bool endsWithin(std::chrono::milliseconds limit, pid_t process)
+{
+    pollfd end{int(syscall(SYS_pidfd_open, process, 0)), POLLIN, 0};
+    if (end.fd < 0)
+        return true;
+    const QDeadlineTimer deadline(limit);
+    // A signal may wake it early.
+    while (poll(&end, 1, int(deadline.remainingTime())) < 0 && errno == EINTR) {
+    }
+    close(end.fd);
+    return end.revents != 0;
+}
+} // namespace
+
+CommandEnd runCommand(const QString &command, std::chrono::milliseconds limit, AtLimit atLimit)
+{
+    const pid_t shell = startShell(command);
+    int status = -1;
+    if (shell == 0 || endsWithin(limit, shell)) {
+        if (shell != 0)
+            waitpid(shell, &status, 0);
+        if (status == 0)
+            return CommandEnd::Succeeded;
+        qDebug() << "command failed, status" << status << command;
+        return CommandEnd::Failed;
+    }
+    qDebug() << "command not back within" << limit.count() << "ms:" << command;
+    if (atLimit == AtLimit::End) {
+        kill(-shell, SIGKILL);
+        // One that hangs in a driver does not end even now.
+        endsWithin(timeToDie, shell);
+        waitpid(shell, nullptr, WNOHANG);
+    }
+    return CommandEnd::HitLimit;
+}

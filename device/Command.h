@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <chrono>
+
+/// Other programs of the device: the one way to run them.
+
+enum class CommandEnd { Succeeded, Failed, HitLimit };
+
+/// What becomes of a command that has not come back within its time, and of all that it started.
+enum class AtLimit { End, LeaveRunning };
+
+/// Runs @p command in a shell and waits for it, @p limit at the most. Whatever keeps it from
+/// succeeding is told by one debug line. Thread-safe.
+CommandEnd runCommand(const QString &command, std::chrono::milliseconds limit,
+                      AtLimit atLimit = AtLimit::End);

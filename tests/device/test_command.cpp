@@ -1,0 +1,67 @@
+#include "device/Command.h"
+#include "testkit/Environment.h"
+#include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
+
+#include <QElapsedTimer>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+class TestCommand : public QObject
+{
+    Q_OBJECT
+
+    struct Command
+    {
+        const char *name;
+        const char *text;
+        CommandEnd end;
+    };
+
+private slots:
+    void endIsTold_data()
+    {
+        addRows<Command>({{"succeeding", "true | cat", CommandEnd::Succeeded},
+                          {"failing", "exit 3", CommandEnd::Failed},
+                          {"missing", "/no/such/tool", CommandEnd::Failed},
+                          {"killed", "kill -9 $$", CommandEnd::Failed},
+                          {"reader gone", "while :; do echo; done | exit 0", CommandEnd::Succeeded},
+                          {"hanging", "trap '' TERM; sleep 30", CommandEnd::HitLimit}});
+    }
+
+    void endIsTold()
+    {
+        QFETCH(Command, row);
+        MessageLog log;
+        QElapsedTimer time;
+        time.start();
+        signal(SIGPIPE, SIG_IGN);
+        QCOMPARE(runCommand(row.text, 300ms), row.end);
+        QVERIFY(time.elapsed() < 1500);
+        QCOMPARE(log.lines().size(), row.end == CommandEnd::Succeeded ? 0 : 1);
+    }
+
+    void limitEndsAllThatWasStarted()
+    {
+        QCOMPARE(mkfifo("pipe", 0600), 0);
+        const int reader = open("pipe", O_RDONLY | O_NONBLOCK);
+        runCommand("exec 3> pipe; sleep 30 & sleep 30", 300ms);
+        char byte = 0;
+        QTRY_COMPARE(read(reader, &byte, 1), 0); // -1 as long as anybody could still write
+        close(reader);
+    }
+
+    void commandIsLeftRunning()
+    {
+        QCOMPARE(runCommand("sleep 0.3; echo done > note", 50ms, AtLimit::LeaveRunning),
+                 CommandEnd::HitLimit);
+        QTRY_COMPARE(Environment::contentOf("note"), "done\n");
+    }
+};
+
+ZELL_TEST_MAIN(TestCommand)
+#include "test_command.moc"
