@@ -1,11 +1,10 @@
 #include "settings/BacklightControl.h"
 
+#include "device/Backlight.h"
 #include "device/DevicePath.h"
-#include "settings/Backlight.h"
 
 #include <QDebug>
 #include <QFile>
-#include <QScopedValueRollback>
 #include <optional>
 #include <utility>
 
@@ -24,19 +23,18 @@ std::optional<int> readLightSensor()
 
 void BacklightControl::setLevel(int wanted)
 {
-    if (announcing)
-        return;
     qDebug("iSliderValue is %d", wanted);
-    present = BacklightLevel::bounded(wanted);
-    {
-        const QScopedValueRollback guard(announcing, true);
-        emit levelChanged(present);
-    }
-    if (const std::optional<int> back = BacklightLevel::backFromEnd(wanted))
-        setLevel(*back);
+    const std::optional<int> back = BacklightLevel::backFromEnd(wanted);
+    present = back.value_or(wanted);
+    emit levelChanged(present);
     if (const auto groove = BacklightLevel::grooveFrom(wanted))
         emit grooveChanged(*groove);
-    setBacklight(wanted);
+    // Kept[end-level-last]: at an end the level moved back to goes out first.
+    if (back) {
+        qDebug("iSliderValue is %d", *back);
+        Backlight::ofDevice().setLevel(*back);
+    }
+    Backlight::ofDevice().setLevel(wanted);
 }
 
 void BacklightControl::followSensor()
@@ -51,9 +49,9 @@ void BacklightControl::followSensor()
     }
     sensorFailed = false;
     const int wanted = BacklightLevel::bounded(*reading);
-    // Every page left behind follows the sensor for ever. A level that the backlight has already is
+    // Kept[left-page-follows]: every page left behind does, for ever. A level that was sent last is
     // not sent once more by each of them, or a long evening of visits would hold up the device.
-    if (leftBehind && wanted == backlightLevel())
+    if (leftBehind && wanted == Backlight::ofDevice().level())
         present = BacklightLevel::backFromEnd(wanted).value_or(wanted);
     else if (wanted != present)
         setLevel(wanted);

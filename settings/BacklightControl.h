@@ -16,25 +16,25 @@ class BacklightControl : public QObject
 public:
     using QObject::QObject;
 
-    /// Where the slider stands, BacklightLevel::lowest to highest.
+    /// Where the slider stands: above BacklightLevel::lowest and below highest.
     int level() const { return present; }
 
     bool isAutomatic() const { return automatic; }
     void setAutomatic(bool on) { automatic = on; }
 
-    /// From now on a level that the backlight has already is not sent again.
+    /// Keeps it from sending a level that the backlight was sent last, from now on.
     void leaveBehind() { leftBehind = true; }
 
     /// Takes @p wanted to the backlight, also where it is the present level. At the two ends of the
     /// slider the level moved back to goes out first and the end itself after it.
     void setLevel(int wanted);
 
-    /// One poll of the light sensor. Does nothing outside the automatic mode; what the sensor gives
+    /// Polls the light sensor once. Does nothing outside the automatic mode; what the sensor gives
     /// is brought into the slider's range, and what is no whole number changes nothing.
     void followSensor();
 
 signals:
-    /// For the slider. A setLevel() from within is ignored.
+    /// For the slider, which must not call setLevel() from within.
     void levelChanged(int level);
     void grooveChanged(BacklightLevel::Groove groove);
 
@@ -42,6 +42,5 @@ private:
     int present = BacklightLevel::atOpening;
     bool automatic = true;
     bool leftBehind = false;
-    bool announcing = false;
     bool sensorFailed = false;
 };

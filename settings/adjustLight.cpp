@@ -8,13 +8,17 @@
 using BacklightLevel::Groove;
 
 namespace {
-constexpr std::chrono::seconds sensorInterval{1};
+using namespace std::chrono_literals;
+
+constexpr auto sensorInterval = 1s;
 
 QString sliderStyle(const char *left, const char *right)
 {
+    // Kept[handle-border]: its width is taken back at once, as a negative one tears the handle
+    // apart.
     return QStringLiteral(
                "QSlider::groove { background: transparent; }"
-               "QSlider::handle { width: 72px;"
+               "QSlider::handle { width: 72px; border: -36px solid #212121; border-width: 0px;"
                " border-image: url(:/resource/images/optionPage/adjustLight/sliderHandle.png); }"
                "QSlider::sub-page { margin: 30px 0px 30px 36px; border-width: 0px 6px;"
                " border-image: url(:/resource/images/optionPage/adjustLight/%1) 0 6; }"
@@ -42,7 +46,10 @@ adjustLight::adjustLight(QWidget *parent)
     connect(ui->checkBox_adjustLight, &QCheckBox::clicked, this, &adjustLight::check_lightAdjust);
     connect(slider, &QSlider::valueChanged, this, &adjustLight::light_valueChanged);
     // The slider as context: these end with it, the light goes on.
-    connect(&light, &BacklightControl::levelChanged, slider, &QSlider::setValue);
+    connect(&light, &BacklightControl::levelChanged, slider, [slider](int level) {
+        const QSignalBlocker blocker(slider);
+        slider->setValue(level);
+    });
     connect(&light, &BacklightControl::grooveChanged, slider,
             [this](Groove wanted) { styleSlider(wanted); });
 }

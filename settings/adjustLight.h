@@ -25,7 +25,7 @@ public slots:
     void on_button_back_clicked();
     /// Takes @p iSliderValue to the backlight, see BacklightControl::setLevel().
     void light_valueChanged(int iSliderValue);
-    /// One poll of the light sensor.
+    /// Polls the light sensor once.
     void cause_lightUpdate();
 
 protected:

@@ -103,7 +103,7 @@ private slots:
 
     void failingScriptLeavesTheScreenAsItWas_data()
     {
-        addRows<Script>({{"failing", "exit 1"}, {"hanging", "exec sleep 8"}, {"missing", ""}});
+        addRows<Script>({{"failing", "exit 1"}, {"hanging", "exec sleep 6"}, {"missing", ""}});
     }
 
     void failingScriptLeavesTheScreenAsItWas()

@@ -1,0 +1,50 @@
+#include "device/Backlight.h"
+
+#include "device/Command.h"
+#include "device/DevicePath.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+namespace {
+using namespace std::chrono_literals;
+
+// The command takes milliseconds. Every level holds the screen up while it hangs, and a finger on
+// the slider asks for dozens of them; so after a hang there is a rest in which none goes out.
+constexpr auto commandLimit = 1s;
+constexpr auto restAfterHang = 2s;
+} // namespace
+
+Backlight &Backlight::ofDevice()
+{
+    auto *backlight = qApp->findChild<Backlight *>(QString(), Qt::FindDirectChildrenOnly);
+    return backlight ? *backlight : *new Backlight(qApp);
+}
+
+Backlight::Backlight(QObject *parent)
+    : QObject(parent)
+{
+    rest.setSingleShot(true);
+    rest.setInterval(restAfterHang);
+    connect(&rest, &QTimer::timeout, this, [this] {
+        if (std::exchange(isWaiting, false))
+            send();
+    });
+}
+
+void Backlight::setLevel(int level)
+{
+    lastLevel = level;
+    if (rest.isActive())
+        isWaiting = true;
+    else
+        send();
+}
+
+void Backlight::send()
+{
+    const QString tool = shellQuoted(devicePath(QStringLiteral("/bin/qtapp/baklight")));
+    const QString command = QStringLiteral("%1 %2").arg(tool).arg(lastLevel);
+    if (runCommand(command, commandLimit) == CommandEnd::HitLimit)
+        rest.start();
+}
