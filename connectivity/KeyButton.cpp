@@ -1,5 +1,7 @@
 #include "connectivity/KeyButton.h"
 
+#include "pages/Look.h"
+
 #include <QEvent>
 #include <QMap>
 #include <QPainter>
@@ -15,9 +17,7 @@ struct KeyLook
 };
 
 namespace {
-constexpr QColor accent(0x00, 0xe5, 0xff);
 constexpr QColor caption(255, 255, 255, 180);
-constexpr QColor pressedText(33, 33, 33);
 constexpr QSize iconSizeOfKeys(32, 32);
 
 const QFont &keyFont()
@@ -63,7 +63,7 @@ const KeyLook &KeyLook::of(KeyKind kind)
         {KeyKind::Delete, {shiftNormal, shiftHover, Qt::white}},
         {KeyKind::Function, {enterNormal, enterHover, Qt::white}},
         {KeyKind::Blank, {picture("blankNormal"), picture("blankHover"), caption}},
-        {KeyKind::Enter, {enterNormal, enterHover, accent}},
+        {KeyKind::Enter, {enterNormal, enterHover, Look::accent}},
     };
     return *looks.constFind(kind);
 }
@@ -109,6 +109,6 @@ void KeyButton::paintEvent(QPaintEvent *)
     if (text().isEmpty())
         return;
     painter.setFont(keyFont());
-    painter.setPen(isDown() ? pressedText : look.text);
+    painter.setPen(isDown() ? Look::ink : look.text);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic, text());
 }

@@ -1,12 +1,13 @@
 #include "connectivity/LineCaret.h"
 
+#include "pages/Look.h"
+
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <algorithm>
 
 namespace {
-constexpr QColor accent(0x00, 0xe5, 0xff);
 constexpr int caretWidth = 2;
 constexpr int caretHeight = 34;
 // The text stands a little below the middle of the line, near the rule under it.
@@ -60,14 +61,14 @@ void LineCaret::paintEvent(QPaintEvent *)
     if (edit->echoMode() != QLineEdit::Password) {
         const QRect cursor = edit->inputMethodQuery(Qt::ImCursorRectangle).toRect();
         const int left = std::min(cursor.center().x(), width() - caretWidth);
-        painter.fillRect(left, caretTop, caretWidth, caretHeight, accent);
+        painter.fillRect(left, caretTop, caretWidth, caretHeight, Look::accent);
         return;
     }
 
     // A long password runs out at the left, so that its end stays in sight.
     const int dots = int(edit->text().size());
     const int caretLeft = std::min(dots * dotPitch + caretGap, width() - caretWidth);
-    painter.fillRect(caretLeft, caretTop, caretWidth, caretHeight, accent);
+    painter.fillRect(caretLeft, caretTop, caretWidth, caretHeight, Look::accent);
     int left = caretLeft - caretGap - dotPitch + dotLeft;
     for (int i = 0; i < dots && left > -dotSize; ++i, left -= dotPitch)
         painter.drawPixmap(left, middleLine - dotSize / 2, dot);

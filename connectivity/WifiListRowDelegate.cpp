@@ -1,6 +1,7 @@
 #include "connectivity/WifiListRowDelegate.h"
 
 #include "connectivity/WifiInfo.h"
+#include "pages/Look.h"
 
 #include <QDebug>
 #include <QPainter>
@@ -37,7 +38,7 @@ int leftOf(const QRect &row, const QPixmap &pixmap)
 WifiListRowDelegate::WifiListRowDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
     , normal(loadLook(Qt::white, QStringLiteral("lock"), QStringLiteral("wifiSignal%1")))
-    , highlighted(loadLook(QColor(0x00, 0xe5, 0xff), QStringLiteral("lockSelect"),
+    , highlighted(loadLook(Look::accent, QStringLiteral("lockSelect"),
                            QStringLiteral("wifiSelectSignal%1")))
     , ground(picture(QStringLiteral("selectWifi")))
     , enter(picture(QStringLiteral("enter")))
@@ -45,10 +46,10 @@ WifiListRowDelegate::WifiListRowDelegate(QObject *parent)
 {
 }
 
-WifiListRowDelegate::Look WifiListRowDelegate::loadLook(const QColor &text, const QString &lock,
-                                                        const QString &signal)
+WifiListRowDelegate::RowLook WifiListRowDelegate::loadLook(const QColor &text, const QString &lock,
+                                                           const QString &signal)
 {
-    Look look{text, picture(lock), {}};
+    RowLook look{text, picture(lock), {}};
     for (int level = 1; level <= int(look.signalLevels.size()); ++level)
         look.signalLevels[std::size_t(level - 1)] = picture(signal.arg(level));
     return look;
@@ -67,7 +68,7 @@ void WifiListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     const bool connected = state == StateConnected || state == StateConnectedNoNetwork;
     const bool connecting = state == StateConnecting;
     const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const Look &look = selected || connected || connecting ? highlighted : normal;
+    const RowLook &look = selected || connected || connecting ? highlighted : normal;
 
     painter->save();
     if (connecting || (selected && !connected)) {

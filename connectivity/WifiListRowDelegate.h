@@ -21,20 +21,20 @@ public:
 
 private:
     // The pictures of a row in one colour.
-    struct Look
+    struct RowLook
     {
         QColor text;
         QPixmap lock;
         std::array<QPixmap, 4> signalLevels;
     };
 
-    static Look loadLook(const QColor &text, const QString &lock, const QString &signal);
+    static RowLook loadLook(const QColor &text, const QString &lock, const QString &signal);
     /// Paints what stands at the right of @p row and returns where the name has to end.
     int paintProgress(QPainter *painter, const QRect &row, const QRect &line, bool connected,
                       bool connecting) const;
 
-    Look normal;
-    Look highlighted;
+    RowLook normal;
+    RowLook highlighted;
     QPixmap ground;
     QPixmap enter;
     QPixmap loading;

@@ -6,6 +6,7 @@
 #include "mainscreen/PmPage.h"
 #include "mainscreen/StripGeometry.h"
 #include "mainscreen/TemperaturePage.h"
+#include "pages/Look.h"
 
 #include <QGraphicsPixmapItem>
 #include <QGraphicsProxyWidget>
@@ -18,7 +19,6 @@
 namespace {
 using namespace std::chrono_literals;
 
-constexpr QSize screenSize{854, 480};
 constexpr qreal backgroundLevel = 0;
 constexpr qreal pageLevel = 2;
 constexpr qreal overlayLevel = 3;
@@ -35,7 +35,7 @@ MainView::MainView(QWidget *parent)
     : QGraphicsView(parent)
 {
     setObjectName(QStringLiteral("MainView"));
-    resize(screenSize);
+    resize(Look::screen);
     setScene(&graphicsScene);
     scheduler = new GetData(this);
     scene_init();
@@ -53,7 +53,7 @@ BaseScene *MainView::overlay() const
 void MainView::scene_init()
 {
     // A fixed rectangle: otherwise every step of a slide has the scene measured anew.
-    setSceneRect(QRectF(QPointF(0, 0), screenSize));
+    setSceneRect(QRectF(QPointF(0, 0), Look::screen));
     centerOn(width() / 2.0, height() / 2.0);
     setWindowFlag(Qt::FramelessWindowHint);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

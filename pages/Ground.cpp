@@ -1,12 +1,12 @@
 #include "pages/Ground.h"
 
+#include "pages/Look.h"
+
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWidget>
 
 namespace {
-constexpr QColor ground(33, 33, 33);
-
 /// Neither the palette nor the style sheet serves: the sheet takes a widget's own palette away
 /// whenever it is applied anew, and what the sheet paints is not opaque in Qt's eyes.
 class GroundPainter : public QObject
@@ -18,7 +18,7 @@ public:
     {
         if (event->type() == QEvent::Paint) {
             auto *page = static_cast<QWidget *>(watched);
-            QPainter(page).fillRect(static_cast<QPaintEvent *>(event)->rect(), ground);
+            QPainter(page).fillRect(static_cast<QPaintEvent *>(event)->rect(), Look::ground);
         }
         return false;
     }

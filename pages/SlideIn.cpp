@@ -1,11 +1,12 @@
 #include "pages/SlideIn.h"
 
+#include "pages/Look.h"
+
 #include <QWidget>
 #include <chrono>
 
 namespace {
 constexpr std::chrono::milliseconds slideTime{400};
-constexpr int screenWidth = 854;
 } // namespace
 
 QPropertyAnimation *slideIn(QWidget *holder)
@@ -14,9 +15,9 @@ QPropertyAnimation *slideIn(QWidget *holder)
     QObject::connect(holder, &QObject::destroyed, animation, &QObject::deleteLater);
     animation->setDuration(int(slideTime.count()));
     animation->setEasingCurve(QEasingCurve::InCurve);
-    animation->setStartValue(QPoint(screenWidth, 0));
+    animation->setStartValue(QPoint(Look::screen.width(), 0));
     animation->setEndValue(QPoint(0, 0));
-    holder->move(screenWidth, 0);
+    holder->move(Look::screen.width(), 0);
     holder->show();
     holder->raise();
     animation->start(QAbstractAnimation::KeepWhenStopped);

@@ -1,5 +1,6 @@
 #include "acquisition/GetData.h"
 #include "pages/Language.h"
+#include "pages/Look.h"
 #include "shell/Global_cfg.h"
 #include "shell/MainWindow.h"
 #include "store/ZellDatabase.h"
@@ -31,7 +32,7 @@ int main(int argc, char *argv[])
     QApplication::installTranslator(&translator);
 
     MainWindow window;
-    window.setGeometry(0, 0, 854, 480);
+    window.setGeometry(QRect(QPoint(0, 0), Look::screen));
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window.show();
     return QApplication::exec();
