@@ -2,20 +2,16 @@
 
 #include <QCheckBox>
 
-namespace {
-void lightCaptions(bool checked, QWidget *off, QWidget *on)
+void captionSwitch(QCheckBox *box, QAbstractButton *off, QAbstractButton *on)
 {
-    const QString dim = QStringLiteral("color: rgba(255, 255, 255, 50%);");
-    off->setStyleSheet(checked ? dim : QStringLiteral("color: #ffffff;"));
-    on->setStyleSheet(checked ? QStringLiteral("color: #00e5ff;") : dim);
-}
-} // namespace
-
-void captionSwitch(QCheckBox *box, QWidget *off, QWidget *on)
-{
-    for (QWidget *caption : {off, on})
+    for (QAbstractButton *caption : {off, on}) {
         caption->setAttribute(Qt::WA_TransparentForMouseEvents);
-    lightCaptions(box->isChecked(), off, on);
-    QObject::connect(box, &QCheckBox::toggled, box,
-                     [off, on](bool checked) { lightCaptions(checked, off, on); });
+        caption->setCheckable(true);
+    }
+    const auto light = [off, on](bool checked) {
+        off->setChecked(!checked);
+        on->setChecked(checked);
+    };
+    light(box->isChecked());
+    QObject::connect(box, &QCheckBox::toggled, box, light);
 }
