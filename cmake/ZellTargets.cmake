@@ -16,14 +16,9 @@ function(zell_configure_target target)
 endfunction()
 
 # zell_add_library(name SOURCES ... [PUBLIC ...] [PRIVATE ...])
-# One static library per room. A room without sources yet is an empty interface.
+# One static library per room.
 function(zell_add_library name)
     cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
-    if(NOT arg_SOURCES)
-        add_library(${name} INTERFACE)
-        target_link_libraries(${name} INTERFACE ${arg_PUBLIC} ${arg_PRIVATE})
-        return()
-    endif()
     add_library(${name} STATIC ${arg_SOURCES})
     zell_configure_target(${name})
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
