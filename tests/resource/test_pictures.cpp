@@ -68,8 +68,7 @@ void TestPictures::initTestCase()
                             fields.value(3) == QLatin1String("unused")});
     }
     QVERIFY(entries.size() > 100);
-    for (const char *room : {"shell", "mainscreen", "history", "settings", "connectivity", "pages",
-                             "resource/qss", "resource/qml"}) {
+    for (const QString &room : QStringLiteral(ZELL_ROOMS).split(' ')) {
         for (const QString &file :
              filesBelow(tree + '/' + room, {"*.cpp", "*.h", "*.ui", "*.qss", "*.qml"}))
             sources += contentOf(file);

@@ -27,11 +27,10 @@ private slots:
         QVERIFY(QFile::copy(ZELL_TREE "/resource/translation/" + copy, copy));
         QProcess collector;
         collector.setWorkingDirectory(ZELL_TREE);
-        QStringList arguments{"-silent", "-no-obsolete", "-I", "."};
-        arguments += QStringList{"shell",        "mainscreen", "settings",    "history",
-                                 "connectivity", "pages",      "resource/qml"};
+        const QStringList options{"-silent", "-no-obsolete", "-I", "."};
         collector.start(ZELL_LUPDATE,
-                        arguments + QStringList{"-ts", QFileInfo(copy).absoluteFilePath()});
+                        options + QString(ZELL_ROOMS).split(' ') +
+                            QStringList{"-ts", QFileInfo(copy).absoluteFilePath()});
         QVERIFY(collector.waitForFinished(60'000));
         QCOMPARE(collector.exitCode(), 0);
 
