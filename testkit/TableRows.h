@@ -3,8 +3,8 @@
 #include <QTest>
 #include <initializer_list>
 
-/// Fills the table of a `_data()` function: one row of the test for each of @p rows, named by its field
-/// `name`. The test fetches its own with QFETCH(Row, row).
+/// Fills the table of a `_data()` function: one row of the test for each of @p rows, named by its
+/// field `name`. The test fetches its own with QFETCH(Row, row).
 template <class Row>
 void addRows(std::initializer_list<Row> rows)
 {

@@ -28,9 +28,8 @@ private slots:
         QProcess collector;
         collector.setWorkingDirectory(ZELL_TREE);
         const QStringList options{"-silent", "-no-obsolete", "-I", "."};
-        collector.start(ZELL_LUPDATE,
-                        options + QString(ZELL_ROOMS).split(' ') +
-                            QStringList{"-ts", QFileInfo(copy).absoluteFilePath()});
+        collector.start(ZELL_LUPDATE, options + QString(ZELL_ROOMS).split(' ') +
+                                          QStringList{"-ts", QFileInfo(copy).absoluteFilePath()});
         QVERIFY(collector.waitForFinished(60'000));
         QCOMPARE(collector.exitCode(), 0);
 
