@@ -42,7 +42,7 @@ QString SimulatorProcess::environmentValue(const QString &variable)
 {
     if (!says("export PATH="))
         return {};
-    const QRegularExpression line("export " + variable + "='([^']*)'\n");
+    const QRegularExpression line("export " + variable + "='?([^'\n]*)'?\n");
     return line.match(QString::fromUtf8(output)).captured(1);
 }
 
