@@ -23,7 +23,7 @@ QStringList photograph(const QString &language, const QDir &target)
 {
     const QDir folder = folderOf(target, language);
     QList<NamedPicture> pictures;
-    const QStringList findings =
+    QStringList findings =
         walkThrough(Language(language + QStringLiteral(".qm")),
                     [&](const QString &stop, const QImage &picture) {
                         pictures.append({stop, picture});
