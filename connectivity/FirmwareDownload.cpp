@@ -12,6 +12,7 @@ QUrl firmwareAddress()
 
 qint64 downloadPercent(qint64 received, qint64 total)
 {
+    // Kept[negative-percent]: a total that is not known gives one.
     return total == 0 ? 0 : received * 100 / total;
 }
 

@@ -6,7 +6,7 @@
 #include <QMap>
 #include <QPainter>
 
-/// How a kind of key looks; the pictures fill the whole cell.
+// How a kind of key looks; the pictures fill the whole cell.
 struct KeyLook
 {
     QPixmap normal;

@@ -94,7 +94,8 @@ int widthOf(KeyKind kind)
     return 0;
 }
 
-// A single ampersand would be swallowed as the mark of a shortcut.
+// Kept[double-ampersand]: a single one would be swallowed as the mark of a shortcut, and so two are
+// typed.
 QString labelOf(char character)
 {
     return character == '&' ? QStringLiteral("&&") : QString(QLatin1Char(character));

@@ -15,7 +15,7 @@ constexpr int redirectsFollowed = 5;
 PackageDownload::PackageDownload(const QUrl &address, const DownloadLimits &limits, QObject *parent)
     : QObject(parent)
 {
-    // Opened only to make the empty target: a folder that cannot be written stops no download.
+    // Kept[package-not-kept]: opened only to make it. A folder that cannot be written stops nothing.
     QFile target(QFileInfo(address.path()).fileName());
     static_cast<void>(target.open(QIODevice::WriteOnly));
 

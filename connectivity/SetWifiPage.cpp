@@ -53,7 +53,7 @@ QString SetWifiPage::scan()
     qDebug() << "command" << command;
     QString filePath = scanFilePath(QDir::currentPath());
     qDebug() << "filePath" << filePath;
-    // The file tells whether it worked.
+    // Kept[scan-blocks]: the page opens when the scan is done. The file tells whether it worked.
     runScan(command);
     return filePath;
 }
@@ -132,6 +132,7 @@ void SetWifiPage::onListWifiItemClicked(const QItemSelection &selected, const QI
         ui->page_passwordKeyboard->open<passwordKeyboard>();
 }
 
+// Kept[placeholder-network]: the page starts no timer by itself.
 void SetWifiPage::timerEvent(QTimerEvent *)
 {
     if (!ui)

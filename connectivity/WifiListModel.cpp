@@ -9,9 +9,11 @@
 #include <chrono>
 
 namespace {
-constexpr std::chrono::milliseconds connectingTime{1000};
+using namespace std::chrono_literals;
+
+constexpr auto connectingTime = 1s;
 // How long events are waited for before the time is looked at again.
-constexpr std::chrono::milliseconds eventTime{100};
+constexpr auto eventTime = 100ms;
 } // namespace
 
 WifiListModel::WifiListModel(QObject *parent)
@@ -108,6 +110,7 @@ void WifiListModel::toConnect(int row)
     chosen->setConnectState(StateConnecting);
     resetList();
 
+    // Kept[connected-by-waiting]: a second passes, and nothing is connected.
     const QPointer<WifiListModel> self(this);
     // Not by the time of day, which may be set or pass midnight meanwhile.
     const QDeadlineTimer connected(connectingTime);

@@ -115,6 +115,7 @@ int WifiListRowDelegate::paintProgress(QPainter *painter, const QRect &row, cons
     area.setRight(left - textToProgress - 1);
     QRect written;
     painter->drawText(area, Qt::AlignRight | Qt::AlignBottom | Qt::TextSingleLine,
+                      // Kept[connected-untranslated]: the same in every language.
                       QStringLiteral("已连接"), &written);
     return written.left() - textToProgress;
 }

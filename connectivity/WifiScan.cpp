@@ -16,6 +16,7 @@ constexpr qint64 mostBytes = 8LL * 1024 * 1024;
 constexpr qint64 shellBlock = 512;
 constexpr qint64 mostBytesOfLine = 1024;
 
+// Kept[name-by-column]: a line of any shape is cut at the same places.
 QString networkName(QByteArrayView line)
 {
     if (line.endsWith('\n'))

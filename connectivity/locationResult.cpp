@@ -57,6 +57,7 @@ void locationResult::show_locate_result()
     QFont font = ui->listWidget->font();
     font.setPixelSize(textPixels);
     ui->listWidget->setFont(font);
+    // Kept[sample-places]: whatever was searched for.
     ui->listWidget->addItems({tr("Beirut,Berut,LB"), tr("北京，中国"),
                               tr("Beigem,Vlaams Brabant,BE"), tr("北格，山西，中国"),
                               tr("北渡，上海，中国"), tr("北格1，山西，中国"),

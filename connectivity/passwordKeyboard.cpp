@@ -27,6 +27,7 @@ void passwordKeyboard::on_entered_password()
 {
     if (!ui)
         return;
+    // Kept[password-dropped]: any will do, also an empty one.
     qDebug() << "check password backstage...";
     leave();
 }

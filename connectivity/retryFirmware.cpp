@@ -3,7 +3,7 @@
 #include "ui_retryFirmware.h"
 
 namespace {
-// A fixed picture of a download that has stalled.
+// Kept[stalled-at-83]: a picture of a download, not the one that failed.
 constexpr int stalledPercent = 83;
 } // namespace
 
@@ -13,7 +13,7 @@ retryFirmware::retryFirmware(QWidget *parent)
     ui->setupUi(this);
     ui->progressBar_fail->setValue(stalledPercent);
     ui->progressBar_fail->setTextVisible(false);
-    // setupUi has bound both slots by name already; the second run per click is meant.
+    // Kept[retry-runs-twice]: setupUi has bound both slots by name already.
     connect(ui->button_back, &QPushButton::clicked, this, &retryFirmware::on_button_back_clicked);
     connect(ui->button_retry, &QPushButton::clicked, this, &retryFirmware::on_button_retry_clicked);
 }

@@ -13,7 +13,7 @@ tryConnectApp::tryConnectApp(QWidget *parent)
 {
     ui->setupUi(this);
     generate_random_number();
-    // setupUi has bound the slot by name already; the second run per click is meant.
+    // Kept[number-back-twice]: setupUi has bound the slot by name already.
     connect(ui->button_back, &QPushButton::clicked, this, &tryConnectApp::on_button_back_clicked);
 }
 
@@ -23,6 +23,7 @@ void tryConnectApp::generate_random_number()
         return;
     const std::array<QLabel *, 4> labels = {ui->label_num1, ui->label_num2, ui->label_num3,
                                             ui->label_num4};
+    // Kept[number-of-the-second]: two openings within one second show the same number.
     std::srand(static_cast<unsigned>(std::time(nullptr)));
     for (int i = 0; i < int(labels.size()); ++i) {
         const int digit = std::rand() % 10;

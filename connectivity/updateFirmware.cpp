@@ -61,6 +61,7 @@ void updateFirmware::check_versionUpdate()
     ui->button_checkUpdate->hide();
     ui->label_newVersion->show();
     ui->button_update->show();
+    // Kept[check-adds-download]: connected anew at every check.
     connect(ui->button_update, &QPushButton::clicked, this, &updateFirmware::update_newVersion);
 }
 
@@ -95,6 +96,7 @@ void updateFirmware::on_downloadProgress(qint64 iBytesReceive, qint64 iBytesTota
         return;
     qDebug() << "on_downloadProgress...";
     qDebug() << "iBytesReceive is" << iBytesReceive;
+    // Kept[zero-bytes-fail]: also the report of 0 bytes that a server sends before the first.
     if (iBytesReceive == 0) {
         qDebug() << "Error comes...";
         jump_retryFirmware_page();

@@ -21,6 +21,7 @@ wifiConnectResult::wifiConnectResult(QWidget *parent)
             &wifiConnectResult::retry_wifi_connect);
 }
 
+// Kept[always-connected]: failure is never shown.
 void wifiConnectResult::show_connect_result()
 {
     ui->label_success->show();

@@ -43,6 +43,7 @@ bool DragScroll::follow(QObject *touched, QEvent *event)
     }
 }
 
+// Kept[accelerating-drag]: the point of the press does not move along.
 void DragScroll::glide(int y)
 {
     const int value = area->verticalScrollBar()->value();

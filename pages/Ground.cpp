@@ -7,8 +7,8 @@
 #include <QWidget>
 
 namespace {
-/// Neither the palette nor the style sheet serves: the sheet takes a widget's own palette away
-/// whenever it is applied anew, and what the sheet paints is not opaque in Qt's eyes.
+// Neither the palette nor the style sheet serves: the sheet takes a widget's own palette away
+// whenever it is applied anew, and what the sheet paints is not opaque in Qt's eyes.
 class GroundPainter : public QObject
 {
 public:

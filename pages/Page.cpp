@@ -23,6 +23,7 @@ void Page::empty()
         if (!behind->existsOnce())
             behind->empty();
     }
+    // Kept[pages-never-deleted]: the page itself stays, and those behind it.
     for (QWidget *widget : widgets)
         widget->deleteLater();
 }

@@ -6,7 +6,9 @@
 #include <chrono>
 
 namespace {
-constexpr std::chrono::milliseconds slideTime{400};
+using namespace std::chrono_literals;
+
+constexpr auto slideTime = 400ms;
 } // namespace
 
 QPropertyAnimation *slideIn(QWidget *holder)
@@ -20,6 +22,7 @@ QPropertyAnimation *slideIn(QWidget *holder)
     holder->move(Look::screen.width(), 0);
     holder->show();
     holder->raise();
+    // Kept[animation-left-behind]: it stays after its run, one for each opening.
     animation->start(QAbstractAnimation::KeepWhenStopped);
     return animation;
 }

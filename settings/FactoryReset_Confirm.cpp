@@ -19,6 +19,7 @@ void FactoryReset_Confirm::cancel_factoryReset()
     leave();
 }
 
+// Kept[reset-told-only]: nothing is erased.
 void FactoryReset_Confirm::confirm_factoryReset()
 {
     if (ui)

@@ -129,6 +129,7 @@ void OptionPage::on_button_back_clicked()
     emit signal_back_lastPage();
 }
 
+// Kept[unit-not-stored]: no reading is converted.
 void OptionPage::option_setTempture()
 {
     const bool celsius = ui->checkBox_tempture->isChecked();

@@ -9,7 +9,7 @@
 #include <QResizeEvent>
 
 namespace {
-/// One engine for all spinners: each would otherwise load QtQuick and compile its files again.
+// One engine for all spinners: each would otherwise load QtQuick and compile its files again.
 QQmlEngine *sharedEngine()
 {
     static QPointer<QQmlEngine> engine;
@@ -25,7 +25,7 @@ QmlApplicationViewer::QmlApplicationViewer(QWidget *parent)
 }
 
 QmlApplicationViewer::QmlApplicationViewer(QQuickWidget *view, QWidget *parent)
-    : QQuickWidget(view != nullptr ? view->engine() : sharedEngine(), parent)
+    : QQuickWidget(view ? view->engine() : sharedEngine(), parent)
 {
     setResizeMode(QQuickWidget::SizeRootObjectToView);
     setClearColor(Qt::transparent);
@@ -64,12 +64,12 @@ void QmlApplicationViewer::showExpanded()
 int QmlApplicationViewer::currentIndex() const
 {
     const QQuickItem *spinner = wheel();
-    return spinner != nullptr ? spinner->property("currentIndex").toInt() : -1;
+    return spinner ? spinner->property("currentIndex").toInt() : -1;
 }
 
 QQuickItem *QmlApplicationViewer::wheel() const
 {
-    return rootObject() != nullptr ? rootObject()->findChild<QQuickItem *>(QStringLiteral("wheel"))
+    return rootObject() ? rootObject()->findChild<QQuickItem *>(QStringLiteral("wheel"))
                                    : nullptr;
 }
 

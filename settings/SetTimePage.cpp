@@ -10,7 +10,7 @@
 #include <array>
 
 namespace {
-/// How the present moment is shown: with 24 hours, with 12 hours.
+// How the present moment is shown: with 24 hours, with 12 hours.
 const std::array<QString, 2> displayFormats = {QStringLiteral("yyyy-MM-dd HH:mm"),
                                                QStringLiteral("yyyy-MM-dd hh:mm AP")};
 } // namespace
@@ -52,6 +52,7 @@ void SetTimePage::on_button_timeZone_clicked()
         ui->page_timeZone->present(ui->page_timeZone->bring<TimeZonePage>());
 }
 
+// Kept[clock-not-set]: what the wheels and the list were turned to is not asked for.
 void SetTimePage::back_default_page()
 {
     if (ui)

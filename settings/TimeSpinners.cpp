@@ -8,9 +8,11 @@
 #include <utility>
 
 namespace {
+using namespace std::chrono_literals;
+
 constexpr int noon = 12;
 // A page has its picture by then, and nobody has found the next row to tap on it.
-constexpr std::chrono::milliseconds pictureTime{100};
+constexpr auto pictureTime = 100ms;
 
 QString spinnerFile(const QString &name)
 {

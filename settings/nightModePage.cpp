@@ -38,6 +38,7 @@ void nightModePage::on_button_finishTime_clicked()
     openTimePage();
 }
 
+// Kept[night-mode-shown-only]: which of the two times is opened is not passed on.
 void nightModePage::openTimePage()
 {
     if (ui)

@@ -15,7 +15,7 @@ QString tabStyle(bool selected)
              selected ? QStringLiteral("#212121") : QStringLiteral("#FFFFFF"));
 }
 
-/// Where the wheels stand when the page opens: the start time that night mode shows.
+// The start time that night mode shows.
 const QTime shownStart{22, 30};
 } // namespace
 
