@@ -106,12 +106,6 @@ void SetWifiPage::on_button_back_clicked()
     qDebug() << "Timer Killed";
 }
 
-void SetWifiPage::back_default_page()
-{
-    if (ui)
-        ui->stackedWidget->setCurrentWidget(ui->page_defalut);
-}
-
 void SetWifiPage::onListWifiItemClicked(const QItemSelection &selected, const QItemSelection &)
 {
     if (!ui || selected.isEmpty())

@@ -28,9 +28,9 @@ public:
     explicit SetWifiPage(QWidget *parent = nullptr);
     ~SetWifiPage() override;
 
+    void on_button_back_clicked() override;
+
 public slots:
-    void on_button_back_clicked();
-    void back_default_page();
     void onListWifiItemClicked(const QItemSelection &selected, const QItemSelection &deselected);
 
 protected:

@@ -38,11 +38,6 @@ void connectApp::show_connect_disconnect()
         part->show();
 }
 
-void connectApp::on_button_back_clicked()
-{
-    leave();
-}
-
 void connectApp::download_from_appleStore()
 {
     if (ui)

@@ -19,7 +19,6 @@ public:
     void show_connect_disconnect();
 
 public slots:
-    void on_button_back_clicked();
     void download_from_appleStore();
     void download_from_googlePlay();
     void jump_tryConnectApp_page();

@@ -8,8 +8,3 @@ installFirmware::installFirmware(QWidget *parent)
     ui->setupUi(this);
     ui->progressBar_install->setTextVisible(false);
 }
-
-void installFirmware::on_button_back_clicked()
-{
-    leave();
-}

@@ -13,7 +13,4 @@ class installFirmware : public FormPage<Ui::installFirmware>
 
 public:
     explicit installFirmware(QWidget *parent = nullptr);
-
-public slots:
-    void on_button_back_clicked();
 };

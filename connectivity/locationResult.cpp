@@ -64,11 +64,6 @@ void locationResult::show_locate_result()
                               tr("北渡1，上海，中国")});
 }
 
-void locationResult::on_button_back_clicked()
-{
-    leave();
-}
-
 void locationResult::delete_searchLocation()
 {
     if (!ui)

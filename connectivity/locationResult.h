@@ -25,7 +25,6 @@ public:
     void show_locate_result();
 
 public slots:
-    void on_button_back_clicked();
     void delete_searchLocation();
 
 private:

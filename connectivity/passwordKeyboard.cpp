@@ -18,11 +18,6 @@ passwordKeyboard::passwordKeyboard(QWidget *parent)
     connect(keyboard, &KeyBorad::signal_commit, this, &passwordKeyboard::on_entered_password);
 }
 
-void passwordKeyboard::on_button_back_clicked()
-{
-    leave();
-}
-
 void passwordKeyboard::on_entered_password()
 {
     if (!ui)

@@ -24,7 +24,6 @@ signals:
     void signal_commit(const QString &strValue);
 
 public slots:
-    void on_button_back_clicked();
     void on_entered_password();
     /// Opens the result of a connection; nothing calls it until there is a check.
     void jump_wifiConnectResult_page();

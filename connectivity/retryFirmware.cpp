@@ -18,11 +18,6 @@ retryFirmware::retryFirmware(QWidget *parent)
     connect(ui->button_retry, &QPushButton::clicked, this, &retryFirmware::on_button_retry_clicked);
 }
 
-void retryFirmware::on_button_back_clicked()
-{
-    leave();
-}
-
 void retryFirmware::on_button_retry_clicked()
 {
     if (ui)

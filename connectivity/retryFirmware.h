@@ -17,7 +17,6 @@ public:
     explicit retryFirmware(QWidget *parent = nullptr);
 
 public slots:
-    void on_button_back_clicked();
     void on_button_retry_clicked();
 
 signals:

@@ -15,17 +15,6 @@ searchLocation::searchLocation(QWidget *parent)
     connect(ui->button_delete, &QPushButton::clicked, this, &searchLocation::delete_searchLocation);
 }
 
-void searchLocation::on_button_back_clicked()
-{
-    leave();
-}
-
-void searchLocation::back_default_page()
-{
-    if (ui)
-        ui->stackedWidget->setCurrentWidget(ui->page_searchLocation);
-}
-
 void searchLocation::jump_searchResult_page()
 {
     if (ui)

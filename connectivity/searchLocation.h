@@ -18,8 +18,6 @@ public:
     explicit searchLocation(QWidget *parent = nullptr);
 
 public slots:
-    void on_button_back_clicked();
-    void back_default_page();
     void jump_searchResult_page();
     void delete_searchLocation();
 

@@ -15,11 +15,6 @@ setLocation::setLocation(QWidget *parent)
     connect(ui->button_ok, &QPushButton::clicked, this, &setLocation::set_network_locate);
 }
 
-void setLocation::on_button_back_clicked()
-{
-    leave();
-}
-
 void setLocation::jump_searchLocation_page()
 {
     if (ui)

@@ -16,7 +16,6 @@ public:
     explicit setLocation(QWidget *parent = nullptr);
 
 public slots:
-    void on_button_back_clicked();
     void jump_searchLocation_page();
     void set_network_locate();
 };

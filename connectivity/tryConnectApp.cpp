@@ -37,8 +37,3 @@ void tryConnectApp::check_connect_result()
     if (ui)
         ui->page_connectResult->open<connectResult>();
 }
-
-void tryConnectApp::on_button_back_clicked()
-{
-    leave();
-}

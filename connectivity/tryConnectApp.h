@@ -22,7 +22,4 @@ public:
 
     /// Shows the result page. For the moment the phone confirms the number; nothing calls it yet.
     void check_connect_result();
-
-public slots:
-    void on_button_back_clicked();
 };

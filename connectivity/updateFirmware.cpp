@@ -142,6 +142,6 @@ void updateFirmware::back_download_page()
 {
     if (!ui)
         return;
-    ui->stackedWidget->setCurrentWidget(ui->page_firmware);
+    back_default_page();
     ui->button_back->show();
 }

@@ -23,8 +23,9 @@ public:
     /// Holds for downloads started from now on.
     void setLimits(const DownloadLimits &newLimits);
 
+    void on_button_back_clicked() override;
+
 public slots:
-    void on_button_back_clicked();
     /// Finds the new version. Every further check makes the update button start one download more.
     void check_versionUpdate();
     void update_newVersion();

@@ -17,9 +17,10 @@ class wifiConnectResult : public FormPage<Ui::wifiConnectResult>
 public:
     explicit wifiConnectResult(QWidget *parent);
 
-public slots:
     /// Does nothing: there is no page to go back to yet.
-    void on_button_back_clicked();
+    void on_button_back_clicked() override;
+
+public slots:
     void forget_this_wifi();
     void retry_wifi_connect();
 

@@ -2,6 +2,7 @@
 
 #include "pages/Ground.h"
 
+#include <QStackedWidget>
 #include <utility>
 
 Page::Page(QWidget *parent)
@@ -26,6 +27,18 @@ void Page::empty()
     // Kept[pages-never-deleted]: the page itself stays, and those behind it.
     for (QWidget *widget : widgets)
         widget->deleteLater();
+}
+
+void Page::on_button_back_clicked()
+{
+    leave();
+}
+
+void Page::back_default_page()
+{
+    auto *stack = findChild<QStackedWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    if (stack && !emptied)
+        stack->setCurrentIndex(0);
 }
 
 void Page::leave()

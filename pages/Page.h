@@ -29,6 +29,12 @@ signals:
     /// The user is done with the page.
     void signal_backDefaultPage();
 
+public slots:
+    /// The arrow of the page was tapped: leaves it.
+    virtual void on_button_back_clicked();
+    /// Shows the page itself again, once a page behind it has been left.
+    void back_default_page();
+
 protected:
     /// Tells the opener that the user is done with the page. Nothing on an emptied one.
     void leave();

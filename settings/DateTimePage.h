@@ -23,8 +23,7 @@ public:
     /// Loads the wheels afresh, turned to this moment.
     void list_init();
 
-public slots:
-    void on_button_back_clicked();
+    void on_button_back_clicked() override;
 
 private:
     void placeSpinners();

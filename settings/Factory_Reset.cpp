@@ -11,19 +11,8 @@ Factory_Reset::Factory_Reset(QWidget *parent)
             &Factory_Reset::back_default_page);
 }
 
-void Factory_Reset::on_button_back_clicked()
-{
-    leave();
-}
-
 void Factory_Reset::on_button_confirm_clicked()
 {
     if (ui)
         ui->page_confirmResetFactory->open<FactoryReset_Confirm>();
-}
-
-void Factory_Reset::back_default_page()
-{
-    if (ui)
-        ui->stackedWidget->setCurrentWidget(ui->page_default);
 }

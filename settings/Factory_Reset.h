@@ -15,7 +15,5 @@ public:
     explicit Factory_Reset(QWidget *parent = nullptr);
 
 public slots:
-    void on_button_back_clicked();
     void on_button_confirm_clicked();
-    void back_default_page();
 };

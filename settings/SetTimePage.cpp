@@ -36,6 +36,7 @@ void SetTimePage::paintEvent(QPaintEvent *event)
     ui->button_currentDateTime->setText(QDateTime::currentDateTime().toString(format));
 }
 
+// Kept[clock-not-set]: what the wheels and the list are turned to is not asked for.
 void SetTimePage::on_button_dateTime_clicked()
 {
     if (!ui)
@@ -50,16 +51,4 @@ void SetTimePage::on_button_timeZone_clicked()
 {
     if (ui)
         ui->page_timeZone->present(ui->page_timeZone->bring<TimeZonePage>());
-}
-
-// Kept[clock-not-set]: what the wheels and the list were turned to is not asked for.
-void SetTimePage::back_default_page()
-{
-    if (ui)
-        ui->stackedWidget->setCurrentWidget(ui->frame_default);
-}
-
-void SetTimePage::on_button_back_clicked()
-{
-    leave();
 }

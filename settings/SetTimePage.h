@@ -22,6 +22,4 @@ protected:
 public slots:
     void on_button_timeZone_clicked();
     void on_button_dateTime_clicked();
-    void on_button_back_clicked();
-    void back_default_page();
 };

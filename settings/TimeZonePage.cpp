@@ -58,11 +58,6 @@ void TimeZonePage::fillTable()
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
 }
 
-void TimeZonePage::on_button_back_clicked()
-{
-    leave();
-}
-
 void TimeZonePage::on_tableWidget_timeZone_cellDoubleClicked(int row, int /*column*/)
 {
     chosenRow = row;

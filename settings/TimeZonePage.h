@@ -24,7 +24,6 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
-    void on_button_back_clicked();
     void on_tableWidget_timeZone_cellDoubleClicked(int row, int column);
 
 private:

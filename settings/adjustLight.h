@@ -20,9 +20,10 @@ class adjustLight : public FormPage<Ui::adjustLight>
 public:
     explicit adjustLight(QWidget *parent = nullptr);
 
+    void on_button_back_clicked() override;
+
 public slots:
     void check_lightAdjust();
-    void on_button_back_clicked();
     /// Takes @p iSliderValue to the backlight, see BacklightControl::setLevel().
     void light_valueChanged(int iSliderValue);
     /// Polls the light sensor once.

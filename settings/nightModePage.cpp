@@ -44,14 +44,3 @@ void nightModePage::openTimePage()
     if (ui)
         ui->page_time->open<timePage>();
 }
-
-void nightModePage::back_default_page()
-{
-    if (ui)
-        ui->stackedWidget->setCurrentWidget(ui->page_default);
-}
-
-void nightModePage::on_button_back_clicked()
-{
-    leave();
-}

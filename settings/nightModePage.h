@@ -17,14 +17,12 @@ public:
     explicit nightModePage(QWidget *parent = nullptr);
 
 public slots:
-    void on_button_back_clicked();
     /// Shows the two time rows while the switch is on.
     void SetTimeControlHideSlt();
     void on_button_startTime_clicked();
     void on_button_finishTime_clicked();
     /// The moon beside the switch is a sign: a tap on it changes nothing.
     void on_button_setNightMode_clicked() {}
-    void back_default_page();
 
 private:
     /// Nothing to do: the form says it all.

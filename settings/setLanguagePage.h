@@ -16,10 +16,11 @@ class setLanguagePage : public FormPage<Ui::setLanguagePage>
 public:
     explicit setLanguagePage(QWidget *parent = nullptr);
 
+    void on_button_back_clicked() override;
+
 public slots:
     /// Does nothing: the selection of the list is the choice.
     void on_listWidget_itemClicked(QListWidgetItem *item);
-    void on_button_back_clicked();
 
 private:
     void show_language_list();

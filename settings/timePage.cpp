@@ -52,8 +52,3 @@ void timePage::selectFinish(bool finish)
     ui->pushButton_start->setStyleSheet(tabStyle(!finish));
     ui->pushButton_finish->setStyleSheet(tabStyle(finish));
 }
-
-void timePage::on_button_back_clicked()
-{
-    leave();
-}

@@ -17,7 +17,6 @@ public:
     explicit timePage(QWidget *parent = nullptr);
 
 public slots:
-    void on_button_back_clicked();
     void on_pushButton_start_clicked();
     void on_pushButton_finish_clicked();
 
