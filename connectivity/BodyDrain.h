@@ -15,8 +15,8 @@ public:
     /// Drains @p source, which owns the drain. A body of more than @p largestBody bytes aborts it.
     BodyDrain(QNetworkReply *source, qint64 largestBody);
 
-    /// The first bytes of the body of any @p reply, drained or not: up to its first zero byte, 64
-    /// KiB at the most.
+    /// Reads the first bytes of the body of any @p reply, drained or not: up to its first zero
+    /// byte, 64 KiB at the most.
     static QByteArray headOf(QNetworkReply *reply);
 
 private:

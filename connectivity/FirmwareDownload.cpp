@@ -15,8 +15,3 @@ qint64 downloadPercent(qint64 received, qint64 total)
     // Kept[negative-percent]: a total that is not known gives one.
     return total == 0 ? 0 : received * 100 / total;
 }
-
-QString downloadText(QString format, qint64 percent)
-{
-    return format.replace(QStringLiteral("%d"), QString::number(percent));
-}

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QString>
 #include <QUrl>
 #include <chrono>
 
@@ -16,13 +15,10 @@ struct DownloadLimits
     qint64 size = qint64(2) * 1024 * 1024 * 1024;
 };
 
-/// The address of the package: the fixed one, or the value of the environment variable
+/// Tells the address of the package: the fixed one, or the value of the environment variable
 /// ZELL_FIRMWARE_URL where that is set and not empty.
 QUrl firmwareAddress();
 
-/// @p received of @p total bytes in per cent, truncated. A total of -1 (not known) gives a negative
-/// figure, a total of 0 gives 0.
+/// Works out @p received of @p total bytes in per cent, truncated. A total of -1 (not known) gives
+/// a negative figure, a total of 0 gives 0.
 qint64 downloadPercent(qint64 received, qint64 total);
-
-/// @p format with @p percent in place of its "%d". Any other per cent sign stays.
-QString downloadText(QString format, qint64 percent);

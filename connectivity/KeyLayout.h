@@ -8,7 +8,7 @@
 /// The three faces of the on-screen keyboard.
 enum class KeyPage { Lowercase, Uppercase, Symbol };
 
-/// Every key that types its own text is as large, in px.
+/// The size of every key that types its own text, in px.
 inline constexpr QSize characterKeySize(84, 60);
 
 /// What a key does, and with it how it looks.
@@ -26,5 +26,5 @@ struct KeyPlace
     QRect area;
 };
 
-/// Every key of @p page, row by row from the top left.
+/// Lists the keys of @p page, row by row from the top left.
 QList<KeyPlace> keyPlaces(KeyPage page);

@@ -15,7 +15,8 @@ constexpr int redirectsFollowed = 5;
 PackageDownload::PackageDownload(const QUrl &address, const DownloadLimits &limits, QObject *parent)
     : QObject(parent)
 {
-    // Kept[package-not-kept]: opened only to make it. A folder that cannot be written stops nothing.
+    // Kept[package-not-kept]: opened only to make it. A folder that cannot be written stops
+    // nothing.
     QFile target(QFileInfo(address.path()).fileName());
     static_cast<void>(target.open(QIODevice::WriteOnly));
 

@@ -34,7 +34,7 @@ public slots:
     void onListWifiItemClicked(const QItemSelection &selected, const QItemSelection &deselected);
 
 protected:
-    /// Inserts a placeholder network at the top. The page starts no timer by itself.
+    /// Inserts a placeholder network at the top.
     void timerEvent(QTimerEvent *event) override;
 
 private:
@@ -42,7 +42,7 @@ private:
     static QString scan();
     void showNetworks(QFile &scanFile);
     void showNoWifi(const QFile &scanFile);
-    /// Owned by the page until it goes, as whatever is waiting for a connection still needs it.
+    /// Owns @p info until the page goes, as whatever is waiting for a connection still needs it.
     WifiInfo *keep(std::unique_ptr<WifiInfo> info);
 
     WifiListModel *model;

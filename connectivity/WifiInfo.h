@@ -23,7 +23,7 @@ public:
     /// @p level is the signal strength in bars, as scanned: 1 ... 4 are meant.
     WifiInfo(const QString &name, const QString &address, int level, EncryptType type);
 
-    /// True with or without a usable network behind.
+    /// Tells so with or without a usable network behind.
     bool isConnected() const;
     bool hasNetwork() const;
     bool isConnecting() const;

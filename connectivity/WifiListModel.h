@@ -20,7 +20,7 @@ public:
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    /// Selectable and enabled, whatever the index.
+    /// Gives selectable and enabled, whatever the index.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     /// Changes nothing.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
@@ -30,7 +30,7 @@ public:
     /// Removes those of the rows that exist, from the root; the networks stay alive. Always true.
     bool removeRows(int row, int count, const QModelIndex &parent = {}) override;
 
-    /// A row outside the list counts as the nearest.
+    /// Inserts @p info; a row outside the list counts as the nearest.
     void insertWifi(int row, WifiInfo *&info);
     void setWifiList(const QList<WifiInfo *> &list);
     void resetList();

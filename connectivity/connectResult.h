@@ -15,6 +15,6 @@ class connectResult : public FormPage<Ui::connectResult>
 public:
     explicit connectResult(QWidget *parent = nullptr);
 
-    /// For the choice between the three results; does nothing while there is none to show.
+    /// Does nothing: made for the choice between the three results.
     void show_success_fail();
 };

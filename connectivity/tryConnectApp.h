@@ -20,6 +20,6 @@ public:
     /// library's generator seeded with the current second.
     void generate_random_number();
 
-    /// Shows the result page. For the moment the phone confirms the number; nothing calls it yet.
+    /// Shows the result page, for the moment the phone confirms the number; nothing calls it yet.
     void check_connect_result();
 };

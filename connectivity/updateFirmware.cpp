@@ -105,7 +105,9 @@ void updateFirmware::on_downloadProgress(qint64 iBytesReceive, qint64 iBytesTota
     const qint64 iDownloadProcess = downloadPercent(iBytesReceive, iBytesTotal);
     qDebug() << "iDownloadProcess is" << iDownloadProcess;
     ui->progressBar_update->setValue(barValue(iDownloadProcess));
-    ui->label_process->setText(downloadText(tr("正在下载 ... %d%\n"), iDownloadProcess));
+    QString text = tr("正在下载 ... %d%\n");
+    ui->label_process->setText(
+        text.replace(QLatin1String("%d"), QString::number(iDownloadProcess)));
 }
 
 void updateFirmware::finish_reply(QNetworkReply *reply)

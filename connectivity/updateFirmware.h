@@ -20,7 +20,7 @@ class updateFirmware : public FormPage<Ui::updateFirmware>
 public:
     explicit updateFirmware(QWidget *parent = nullptr);
 
-    /// Holds for downloads started from now on.
+    /// Bounds the downloads that start from now on.
     void setLimits(const DownloadLimits &newLimits);
 
     void on_button_back_clicked() override;
@@ -34,7 +34,8 @@ public slots:
     void download_newVersion();
     /// Ends on the page that @p reply deserves and deletes it. Any reply will do.
     void finish_reply(QNetworkReply *reply);
-    /// A report of 0 bytes counts as a failure. Bytes; a total of -1 is not known.
+    /// Shows how far a download has come, in bytes; a total of -1 is not known. 0 bytes are a
+    /// failure.
     void on_downloadProgress(qint64 iBytesReceive, qint64 iBytesTotal);
 
 protected:

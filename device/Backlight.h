@@ -9,7 +9,7 @@ class Backlight : public QObject
     Q_OBJECT
 
 public:
-    /// The one backlight there is. Belongs to the application object.
+    /// Finds the one backlight there is. Belongs to the application object.
     static Backlight &ofDevice();
 
     /// Hands @p level to the device's command, its only argument.
@@ -19,7 +19,7 @@ public:
     /// last level asked for meanwhile goes out. A command that fails leaves one debug line.
     void setLevel(int level);
 
-    /// The level asked for last, whatever became of it; -1 before the first.
+    /// Tells the level asked for last, whatever became of it; -1 before the first.
     int level() const { return lastLevel; }
 
 private:

@@ -17,8 +17,9 @@ public:
     /// Moves the vertical scroll bar of @p scrolled. Owned by @p parent.
     DragScroll(QAbstractScrollArea *scrolled, QObject *parent);
 
-    /// For the event filter of whoever watches @p touched, the viewport or the content that scrolls
-    /// in it. Whether @p event was a press, a move or a release; nothing else is followed.
+    /// Serves the event filter of whoever watches @p touched, the viewport or the content that
+    /// scrolls in it. Tells whether @p event was a press, a move or a release; nothing else is
+    /// followed.
     bool follow(QObject *touched, QEvent *event);
 
 private:

@@ -26,10 +26,10 @@ public:
 
     QString translationFile() const { return file; }
 
-    /// The name to choose it by: a source text of the context setLanguagePage.
+    /// Tells the name to choose it by: a source text of the context setLanguagePage.
     const char *title() const { return name; }
 
-    /// The resource that holds its translation.
+    /// Names the resource that holds its translation.
     QString resource() const;
 
 private:

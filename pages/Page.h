@@ -22,7 +22,7 @@ public:
     /// emptied with it, but for those that exist once. May be called again.
     void empty();
 
-    /// Whether there is one such page in the program, which moves from holder to holder.
+    /// Tells whether there is one such page in the program, which moves from holder to holder.
     virtual bool existsOnce() const { return false; }
 
 signals:
@@ -30,7 +30,7 @@ signals:
     void signal_backDefaultPage();
 
 public slots:
-    /// The arrow of the page was tapped: leaves it.
+    /// Leaves the page: its arrow was tapped.
     virtual void on_button_back_clicked();
     /// Shows the page itself again, once a page behind it has been left.
     void back_default_page();
@@ -39,7 +39,7 @@ protected:
     /// Tells the opener that the user is done with the page. Nothing on an emptied one.
     void leave();
 
-    /// The page is about to lose its form: ends or hands over what needs it.
+    /// Ends or hands over what needs the form, which is about to go.
     virtual void beforeEmptying() {}
 
 private:

@@ -18,7 +18,7 @@ class TouchList : public QObject
     Q_OBJECT
 
 public:
-    /// @p listView should scroll per pixel.
+    /// Watches @p listView, which should scroll per pixel.
     explicit TouchList(QAbstractItemView *listView);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

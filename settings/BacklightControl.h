@@ -16,7 +16,7 @@ class BacklightControl : public QObject
 public:
     using QObject::QObject;
 
-    /// Where the slider stands: above BacklightLevel::lowest and below highest.
+    /// Tells where the slider stands: above BacklightLevel::lowest and below highest.
     int level() const { return present; }
 
     bool isAutomatic() const { return automatic; }

@@ -12,13 +12,14 @@ constexpr int atOpening = 132;
 /// How the groove of the slider is drawn; only its pictures differ.
 enum class Groove { Low, Normal, Full };
 
-/// The level of the slider's range nearest to @p level.
+/// Finds the level of the slider's range nearest to @p level.
 int bounded(int level);
 
-/// Where the slider goes back to from @p level at one of its ends; nothing for all other levels.
+/// Tells where the slider goes back to from @p level at one of its ends; nothing for all other
+/// levels.
 std::optional<int> backFromEnd(int level);
 
-/// The groove from @p level on. The few levels above the lower end leave it as it is.
+/// Chooses the groove from @p level on. The few levels above the lower end leave it as it is.
 std::optional<Groove> grooveFrom(int level);
 
 } // namespace BacklightLevel

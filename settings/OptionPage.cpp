@@ -16,8 +16,8 @@
 #include <QDebug>
 
 namespace {
-const char *const unitInUse = "QLabel{font-size:24px;color:#00E5FF;}";
-const char *const otherUnit = "QLabel{font-size:24px;color:#FFFFFF;}";
+const QString unitInUse = QStringLiteral("QLabel{font-size:24px;color:#00E5FF;}");
+const QString otherUnit = QStringLiteral("QLabel{font-size:24px;color:#FFFFFF;}");
 } // namespace
 
 OptionPage::OptionPage(QWidget *parent)

@@ -27,7 +27,7 @@ signals:
     void signal_back_lastPage();
 
 public slots:
-    /// Whether the menu itself is showing, and not the page of a setting.
+    /// Tells whether the menu itself is showing, and not the page of a setting.
     bool is_allowed_slide();
     void jump_setWifi_page();
     void jump_setTime_page();

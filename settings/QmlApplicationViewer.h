@@ -25,13 +25,13 @@ public:
     void setMainQmlFile(const QString &file, int row = 0);
     /// Adds a folder, written like the path of a main file, to where QML modules are looked for.
     void addImportPath(const QString &path);
-    /// The screen of the device never turns: the wish is kept and changes nothing.
+    /// Keeps the wish, which changes nothing: the screen of the device never turns.
     void setOrientation(ScreenOrientation wished);
     ScreenOrientation orientation() const { return wishedOrientation; }
     /// Shows the host in the place its page gives it.
     void showExpanded();
 
-    /// The row in the middle of the spinner, counted from 0; -1 while there is none.
+    /// Tells the row in the middle of the spinner, counted from 0; -1 while there is none.
     int currentIndex() const;
 
 signals:

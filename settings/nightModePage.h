@@ -21,11 +21,11 @@ public slots:
     void SetTimeControlHideSlt();
     void on_button_startTime_clicked();
     void on_button_finishTime_clicked();
-    /// The moon beside the switch is a sign: a tap on it changes nothing.
+    /// Does nothing: the moon beside the switch is a sign.
     void on_button_setNightMode_clicked() {}
 
 private:
-    /// Nothing to do: the form says it all.
+    /// Does nothing: the form says it all.
     void InitUi() {}
     void openTimePage();
 };
