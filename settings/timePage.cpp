@@ -25,6 +25,7 @@ timePage::timePage(QWidget *parent)
     ui->setupUi(this);
     // The page carries the title of the one that opens it.
     ui->label_title->setText(QCoreApplication::translate("nightModePage", "夜间模式"));
+    selectFinish(false);
     initTimeControl();
 }
 
