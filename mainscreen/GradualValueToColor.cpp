@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <algorithm>
+#include <cmath>
 
 void GradualValueToColor::setStartColor(int color)
 {
@@ -37,16 +38,19 @@ void GradualValueToColor::parseHexToRGB(int color, int &r, int &g, int &b)
 
 QString GradualValueToColor::colorAt(float value)
 {
-    // Written so that NaN, which compares false with everything, becomes 0.
-    const float inside = value > 0.0F ? std::min(value, 1.0F) : 0.0F;
-    const auto [lower, upper] = findRangRgb(inside, colors);
+    const float wanted = std::isnan(value) ? 0.0F : value;
+    const auto [lower, upper] = findRangRgb(wanted, colors);
     const RGB low = colors[lower];
     const RGB high = colors[upper];
-    const float t = (inside - lower) / (upper - lower);
+    const float t = (wanted - lower) / (upper - lower);
     const float u = 1.0F - t;
-    const auto blend = [&](int from, int to) { return int(u * float(from) + t * float(to)); };
+    // Beyond the ends a channel leaves its byte and runs into the next one, as far as an int goes.
+    const auto blend = [&](int from, int to) {
+        constexpr float largest = 2147483520.0F;
+        return unsigned(int(std::clamp(u * float(from) + t * float(to), -largest, largest)));
+    };
 
-    const int combined =
+    const unsigned combined =
         (blend(low.r, high.r) << 16) | (blend(low.g, high.g) << 8) | blend(low.b, high.b);
     const QString digits = QString::number(combined, 16);
     return digits.size() >= 6 ? QLatin1Char('#') + digits.right(6) : QStringLiteral("#0") + digits;

@@ -29,9 +29,9 @@ public:
     /// Splits @p color, 0xRRGGBB, into its three bytes.
     static void parseHexToRGB(int color, int &r, int &g, int &b);
 
-    /// The name of the colour at @p value: "#" and six lower-case hexadecimal digits, fewer when
-    /// red and green are both below 0x10. A value outside 0 to 1 counts as the nearer end, NaN as
-    /// 0.
+    /// Names the colour at @p value: "#" and six lower-case hexadecimal digits, fewer when red and
+    /// green are both below 0x10. The blend goes on outside 0 to 1, where channels run into one
+    /// another. NaN counts as 0.
     QString colorAt(float value);
 
 private:

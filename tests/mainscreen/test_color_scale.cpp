@@ -32,7 +32,9 @@ private slots:
         QCOMPARE(scale.colorAt(0.6F), QString("#804020"));
         QCOMPARE(scale.colorAt(0.9F), QString("#33190c"));
         scale.setEndColor(0x00FFFF);
-        QCOMPARE(scale.colorAt(2.0F), QString("#0ffff"));
+        QCOMPARE(scale.colorAt(2.0F), QString("#01fffe"));
+        QCOMPARE(scale.colorAt(-1.0F), QString("#ffff01"));
+        QCOMPARE(scale.colorAt(9e30F).size(), 7);
 
         const QMap<float, RGB> stops{{0.25F, {}}, {0.5F, {}}};
         QCOMPARE(findRangRgb(0.5F, stops), std::pair(0.25F, 0.5F));
