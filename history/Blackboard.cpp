@@ -6,11 +6,14 @@
 #include <QTimeLine>
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cmath>
 
 namespace {
 constexpr std::chrono::milliseconds revealTime{1000};
 constexpr int daysOfWeek = 7;
+// Of the ranges, whatever number of steps the axis is drawn in.
+constexpr int rangeDivisions = 3;
 // Where one rectangle costs more than the two markers in it, in pixels.
 constexpr int widestRepaint = 200;
 
@@ -50,7 +53,7 @@ void Blackboard::setValueMap(const QMap<int, float> &map, int newType)
         [](QMap<int, float>::iterator reading) { return std::isnan(reading.value()); });
     if (removed > 0)
         qDebug() << "Blackboard: left out" << removed << "readings that are no numbers";
-    ranges = valueRangesOf(valueMap, LocalTime::startOfDay(clock()), valueDivisions);
+    ranges = valueRangesOf(valueMap, LocalTime::startOfDay(clock()), rangeDivisions);
     ++series;
     plotBottom = plotTop = -1;
     times.clear();
@@ -58,16 +61,14 @@ void Blackboard::setValueMap(const QMap<int, float> &map, int newType)
     update();
 }
 
-std::pair<qint64, qint64> Blackboard::getDayTimeRange(CurrentDay wanted) const
+std::pair<int, int> Blackboard::getDayTimeRange(CurrentDay wanted) const
 {
-    const qint64 today = LocalTime::startOfDay(clock());
-    const qint64 tomorrow = today + LocalTime::secondsPerDay;
-    if (mode == twentyFourHours)
-        return {today, tomorrow};
-    if (wanted == wholeWeek)
-        return {tomorrow - daysOfWeek * LocalTime::secondsPerDay, tomorrow};
-    return {today - wanted * LocalTime::secondsPerDay,
-            tomorrow - wanted * LocalTime::secondsPerDay};
+    // Readings have times that an int holds; beyond them there are none to show.
+    const auto held = [](qint64 time) { return int(std::clamp<qint64>(time, INT_MIN, INT_MAX)); };
+    const qint64 daysBack = mode == twentyFourHours || wanted == wholeWeek ? 0 : wanted;
+    const qint64 days = mode != twentyFourHours && wanted == wholeWeek ? daysOfWeek : 1;
+    const qint64 end = LocalTime::startOfDay(clock()) + (1 - daysBack) * LocalTime::secondsPerDay;
+    return {held(end - days * LocalTime::secondsPerDay), held(end)};
 }
 
 bool Blackboard::is0oclock(int t)
@@ -192,6 +193,9 @@ ChartMarker Blackboard::markerAt(int x, float value) const
 void Blackboard::paintEvent(QPaintEvent *event)
 {
     resetGeometry();
+    const qint64 today = LocalTime::startOfDay(clock());
+    if (std::exchange(paintedToday, today) != today)
+        emit daysMoved();
     const ChartFrame frame = currentFrame();
     // A new day can begin while a finger moves: then the rest of the chart has to follow.
     if (refreshStillPart(frame) && event->region() != QRegion(rect()))

@@ -36,7 +36,7 @@ public:
 
     /// Start and, exclusive, end of @p day in Unix seconds; always today in the 24-hour
     /// presentation.
-    std::pair<qint64, qint64> getDayTimeRange(CurrentDay day) const;
+    std::pair<int, int> getDayTimeRange(CurrentDay day) const;
     /// False exactly at 0 o'clock local time, despite its name.
     static bool is0oclock(int t);
     void isCurrentDay(int day);
@@ -78,6 +78,8 @@ public slots:
     void reanimate1();
 
 signals:
+    /// The days that the chart shows have moved: midnight has passed, or the clock was set.
+    void daysMoved();
     /// A reading is under the finger. Emitted from painting, thus again with every repaint.
     void signalTouch(float x, int time, float value, QColor valueColor, QString unit);
     /// The finger has left, or there is no reading to touch.
@@ -114,5 +116,6 @@ private:
     QPixmap stillPart;
     ChartFrame stillFrame;
     quint64 series = 0;
+    qint64 paintedToday = 0;
     QRect paintedMarker;
 };

@@ -50,6 +50,9 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
     connect(blackboard, &Blackboard::signalMouseRelease, this, &HistoryPage::onBlackboradRelease);
     midnight.setSingleShot(true);
     midnight.setTimerType(Qt::PreciseTimer);
+    // Queued: names must not change while the chart is painted.
+    connect(blackboard, &Blackboard::daysMoved, this, &HistoryPage::labelDays,
+            Qt::QueuedConnection);
     connect(&midnight, &QTimer::timeout, this, &HistoryPage::beginDay);
     loadData();
     ui->blackboard_content->layout()->addWidget(blackboard);
@@ -99,7 +102,7 @@ void HistoryPage::labelDays()
         button->setText(now.addDays(-daysAgo++).toString(QStringLiteral("dd 日")));
 }
 
-// The chart's days follow the clock by themselves; their names and an idle chart would stay behind.
+// The chart follows the clock whenever it is painted, and tells so; an idle one would stay behind.
 void HistoryPage::beginDay()
 {
     labelDays();

@@ -42,15 +42,14 @@ NearestDot nearestDot(const QList<int> &times, const QList<int> &screenXs, Local
 
 int nearestTime(const QList<int> &times, float time)
 {
-    // A float counts Unix times in steps of 128 s; the distances are worked out exactly.
-    const double wanted = time;
     if (times.size() < 2)
         return -1;
-    if (times.first() > wanted)
+    if (float(times.first()) > time)
         return times.first();
-    const auto later = std::upper_bound(times.cbegin(), times.cend(), wanted);
+    const auto later = std::upper_bound(times.cbegin(), times.cend(), time,
+                                        [](float t, int entry) { return t < float(entry); });
     if (later == times.cend())
         return -1;
     const int earlier = *std::prev(later);
-    return wanted - earlier < *later - wanted ? earlier : *later;
+    return time - float(earlier) < float(*later) - time ? earlier : *later;
 }

@@ -29,6 +29,7 @@ struct NearestDot
 NearestDot nearestDot(const QList<int> &times, const QList<int> &screenXs, LocalTime::Range days,
                       float x);
 
-/// The entry of the ascending @p times nearest to @p time, the later one at equal distance. -1 when
-/// @p time is not before the last entry and for fewer than two entries.
+/// Finds the entry of the ascending @p times nearest to @p time, the later one at equal distance;
+/// -1 when @p time is not before the last entry and for fewer than two entries. Compares in float,
+/// which counts Unix times in steps of 128 s.
 int nearestTime(const QList<int> &times, float time);

@@ -151,7 +151,7 @@ private slots:
 
     void daysAndPlaces()
     {
-        using Days = std::pair<qint64, qint64>;
+        using Days = std::pair<int, int>;
         Readings readings = week;
         readings[today] = std::numeric_limits<float>::quiet_NaN();
         const MessageLog log;
@@ -167,6 +167,11 @@ private slots:
         QVERIFY(!Blackboard::is0oclock(today) && Blackboard::is0oclock(today + 1));
         QCOMPARE(board.timeXToScreenX(12 * hour, true), 404.5F);
         QCOMPARE(board.timeXToScreenX(4 * hour, false), 404.5F);
+        QCOMPARE(board.valueYToScreenY(25), 244.0F);
+        // The steps of the axis do not change the range.
+        board.valueDivisions = 4;
+        board.setValueMap(readings, 2);
+        board.painted();
         QCOMPARE(board.valueYToScreenY(25), 244.0F);
         QCOMPARE(board.screenYToValueY(60 + 336 - 244), 25.0F);
         QCOMPARE(board.searchNearestTime(0), today - 12 * hour);

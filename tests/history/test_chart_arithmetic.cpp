@@ -107,8 +107,9 @@ private slots:
 
     void nearestTimes()
     {
-        const QList<int> times{today + 512, today + 1024, today + 2048};
-        const QMap<int, int> nearest{{0, 512}, {512, 512}, {640, 512}, {768, 1024}, {2048, -1}};
+        // Times that a float rounds: to 128, 896 and 1792.
+        const QList<int> times{today + 150, today + 900, today + 1850};
+        const QMap<int, int> nearest{{0, 150}, {150, 150}, {384, 150}, {512, 900}, {1850, -1}};
         for (auto time = nearest.cbegin(); time != nearest.cend(); ++time)
             QCOMPARE(nearestTime(times, float(today + time.key())),
                      time.value() < 0 ? -1 : today + time.value());

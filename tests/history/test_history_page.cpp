@@ -114,6 +114,13 @@ private slots:
         QTRY_VERIFY(!readOut()->isVisible());
     }
 
+    void aClockThatIsSetRenamesTheDaysWithTheChart()
+    {
+        now -= 3 * 86400;
+        chart->update();
+        QTRY_COMPARE(dayText(0), QString("18 日"));
+    }
+
 private:
     QWidget *readOut() { return page->findChild<SlideLabel *>(); }
     QString readOutText(int label) { return readOut()->findChildren<QLabel *>()[label]->text(); }
