@@ -6,7 +6,7 @@
 /// What becomes of a database file that is damaged, as after a power cut on worn flash: no
 /// statement succeeds on it any more, so it makes room for a new one. Nothing is deleted.
 
-/// Whether @p error says that the file is damaged or no SQLite file at all.
+/// Tells whether @p error says that the file is damaged or no SQLite file at all.
 bool isDamage(const QSqlError &error);
 
 /// Renames the closed database @p fileName to the first name that is free of "<fileName>.damaged1"

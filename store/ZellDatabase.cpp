@@ -23,7 +23,7 @@ QSqlDatabase connection()
     return QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false);
 }
 
-/// What a table takes of the two values of an insert.
+// What a table takes of the two values of an insert.
 struct Table
 {
     QString name;
@@ -37,10 +37,10 @@ const Table *findTable(const QString &name)
     const QString pm = QStringLiteral("PM2_5");
     const QString both = QStringLiteral("Temp,Hum");
     static const Table tables[] = {
-        {QStringLiteral("PM2_5"), pm, false, true},
-        {QStringLiteral("PM2_5_NoWiFi"), pm, false, false},
-        {QStringLiteral("TempAndHum"), both, true, true},
-        {QStringLiteral("TempAndHum_NoWiFi"), both, true, false},
+        {.name = QStringLiteral("PM2_5"), .columns = pm, .isMain = true},
+        {.name = QStringLiteral("PM2_5_NoWiFi"), .columns = pm},
+        {.name = QStringLiteral("TempAndHum"), .columns = both, .takesBoth = true, .isMain = true},
+        {.name = QStringLiteral("TempAndHum_NoWiFi"), .columns = both, .takesBoth = true},
     };
     for (const Table &table : tables) {
         if (table.name == name)
@@ -69,7 +69,7 @@ QSqlError execute(const QString &statement, const QVariantList &values)
     return query.lastError();
 }
 
-/// Whether the row stored last holds @p values. A row that is missing or unreadable differs.
+// Whether the row stored last holds values. A row that is missing or unreadable differs.
 bool repeatsLastRow(const Table &table, const QVariantList &values)
 {
     const QSqlDatabase database = connection();
@@ -102,9 +102,17 @@ ZellDatabase::~ZellDatabase()
 
 void ZellDatabase::run() {}
 
+// Kept[open-close-hooks]: other programs call them.
 void ZellDatabase::open_database() {}
 
 void ZellDatabase::close_database() {}
+
+void ZellDatabase::openMeasurements()
+{
+    CreateDataBase(QStringLiteral("ZellQt4.db"));
+    for (const QString &statement : tableStatements())
+        CreateDataBaseTable(statement);
+}
 
 void ZellDatabase::CreateDataBase(const QString &fileName)
 {
@@ -133,7 +141,7 @@ void ZellDatabase::CreateDataBaseTable(const QString &statement)
 void ZellDatabase::DeleteDataBaseTimeItem(const QString &tableName, long now)
 {
     const Table *table = findTable(tableName);
-    if (table != nullptr && table->isMain) {
+    if (table && table->isMain) {
         change(QStringLiteral("delete from %1 where UnixSec <= ?").arg(table->name),
                {quint32(retentionCutoff(now))});
     }
@@ -142,11 +150,11 @@ void ZellDatabase::DeleteDataBaseTimeItem(const QString &tableName, long now)
 void ZellDatabase::DeleteDataBaseItem(const QString & /*tableName*/, const QString & /*column*/,
                                       const QString &value)
 {
-    // QString::arg knows no %s: names put in that way would leave this text as it is, with a
-    // warning from Qt on top.
+    // Kept[deletes-nothing]: the names never get into the statement, which SQLite refuses.
     execute(QStringLiteral("delete from %s where %s = ?"), {value});
 }
 
+// Kept[probe]: reads no rows and returns nothing.
 void ZellDatabase::QueryPm25Values()
 {
     qDebug() << "Querying";
@@ -166,23 +174,25 @@ void ZellDatabase::InsertDataBaseItem(time_t iTimeSec, const QString &tableName,
 
     const Table *table = findTable(tableName);
     const QVariantList values =
-        table != nullptr && table->takesBoth ? QVariantList{value, value2} : QVariantList{value2};
+        table && table->takesBoth ? QVariantList{value, value2} : QVariantList{value2};
     const QVariantList row = QVariantList{quint32(iTimeSec), localTimeText(iTimeSec)} + values;
 
-    const bool isMain = table != nullptr && table->isMain;
+    const bool isMain = table && table->isMain;
+    // Kept[insert-fail]: told for every row that the main tables do not get, one repeated included.
     if (isMain && !repeatsLastRow(*table, values) && change(insertStatement(*table), row))
         GetData::iLastUnixSec = iTimeSec;
     else
         qDebug() << "Insert fail!";
 
+    // Kept[no-wifi-tables]: they stay empty, as every new scheduler believes in its network.
     if (online)
         return;
-    if (table == nullptr || isMain || !change(insertStatement(*table), row))
+    if (!table || isMain || !change(insertStatement(*table), row))
         qDebug() << "Insert NoWiFi table fail!";
 }
 
-/// Executes a statement that writes. Without this a damaged file would refuse every row for ever:
-/// it gives way to a new one, on which the statement is tried once more.
+// Executes a statement that writes. Without this a damaged file would refuse every row for ever:
+// it gives way to a new one, on which the statement is tried once more.
 bool ZellDatabase::change(const QString &statement, const QVariantList &values)
 {
     const QSqlError error = execute(statement, values);
@@ -192,22 +202,21 @@ bool ZellDatabase::change(const QString &statement, const QVariantList &values)
     const QString fileName = database.databaseName();
     database.close();
     const bool isNew = setAside(fileName);
-    CreateDataBase(fileName);
-    if (!isNew)
-        return false;
-    for (const QString &table : tableStatements())
-        CreateDataBaseTable(table);
-    return !execute(statement, values).isValid();
+    openMeasurements();
+    return isNew && !execute(statement, values).isValid();
 }
 
-/// Builds the scheduler that every insert adds and asks it whether there is a network.
+// Builds the scheduler that every insert adds and asks it whether there is a network.
 bool ZellDatabase::networkAvailable()
 {
-    // All schedulers count towards the next insert, so each one built makes the following come
-    // sooner: without a ceiling their number would grow exponentially, to half a million within an
-    // hour. Past it one that exists answers.
-    if (GetData::objects().size() >= GETDATA_MAX_OBJECTS)
+    // Kept[scheduler-per-row]: all schedulers count towards the next insert, so each one built
+    // makes the following come sooner: without a ceiling their number would grow exponentially, to
+    // half a million within an hour. Past it one that exists answers; what a new one would have
+    // done for the file is done all the same, or a file that was taken away would be lost for good.
+    if (GetData::objects().size() >= GETDATA_MAX_OBJECTS) {
+        openMeasurements();
         return GetData::objects().constFirst()->isNetworkAvailable();
+    }
     schedulers.push_back(std::make_unique<GetData>());
     return schedulers.back()->isNetworkAvailable();
 }

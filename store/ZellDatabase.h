@@ -25,9 +25,12 @@ public:
     /// Takes the schedulers along that its inserts built.
     ~ZellDatabase() override;
 
-    /// No effect: CreateDataBase() opens the file and nothing closes it.
+    /// Have no effect: CreateDataBase() opens the file and nothing closes it.
     void open_database();
     void close_database();
+
+    /// Opens "ZellQt4.db" in the working directory anew and makes its tables.
+    void openMeasurements();
 
     /// Opens @p fileName, made empty where it is missing, on the default connection. A connection
     /// that is open is opened anew, which ends every query prepared on it.

@@ -1,8 +1,8 @@
 #include "acquisition/GetData.h"
-#include "shell/Global_cfg.h"
 #include "store/ZellDatabase.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
 
 #include <QDeadlineTimer>
 #include <QSqlDatabase>
@@ -15,7 +15,26 @@ class TestZellDatabase : public QObject
     Q_OBJECT
 
     static constexpr time_t noon = 1709956800; // 2024-03-09 12:00:00 in Shanghai
+    static constexpr qint64 midnight = noon - 43200;
+    static constexpr qint64 oldest = midnight - 518400;
     std::unique_ptr<ZellDatabase> database;
+
+    struct Clock
+    {
+        const char *name;
+        qint64 now, cutoff;
+    };
+    struct Trouble
+    {
+        const char *name;
+        const char *statement;
+        bool isDiskFull;
+    };
+    struct Damage
+    {
+        const char *name;
+        QByteArray content;
+    };
 
     static QString read(const QString &statement)
     {
@@ -39,35 +58,51 @@ private slots:
 
     void inserts()
     {
-        const QString items = "TempAndHum/0/45 TempAndHum/0/45 TempAndHum/0/46 TempAndHum/1/46 "
-                              "TempAndHum/0/45 PM2_5/7/35 PM2_5/8/35 TempAndHum/0/45 PM2_5/8/35 "
-                              "PM2_5_NoWiFi/0/1 TempAndHum_NoWiFi/1/2 Test/1/2";
-        const MessageLog log;
+        struct Item
+        {
+            const char *table;
+            int value, value2;
+            const char *stored = "";
+        };
         time_t time = noon;
-        for (const QString &item : items.split(' ')) {
-            const QStringList parts = item.split('/');
-            database->InsertDataBaseItem(++time, parts[0], parts[1].toInt(), parts[2].toInt());
+        for (const Item &item : {Item{"TempAndHum", 0, 45, "0/45"},
+                                 {"TempAndHum", 0, 45},
+                                 {"TempAndHum", 0, 46, "0/46"},
+                                 {"TempAndHum", 1, 46, "1/46"},
+                                 {"TempAndHum", 0, 45, "0/45"},
+                                 {"PM2_5", 7, 35, "35"},
+                                 {"PM2_5", 8, 35},
+                                 {"TempAndHum", 0, 45, "0/45"},
+                                 {"PM2_5", 8, 35, "35"},
+                                 {"PM2_5_NoWiFi", 0, 1},
+                                 {"TempAndHum_NoWiFi", 1, 2},
+                                 {"Test", 1, 2}}) {
+            const MessageLog log;
+            database->InsertDataBaseItem(++time, item.table, item.value, item.value2);
+            const QString row = QString("UnixSec = %1").arg(time);
+            QCOMPARE(read("select PM2_5 from PM2_5 where " + row +
+                          " union select Temp || '/' || Hum from TempAndHum where " + row),
+                     item.stored);
+            QCOMPARE(log.contains("Insert fail!"), *item.stored == '\0');
+            QVERIFY(!log.contains("QSql"));
         }
-        QCOMPARE(read("select substr(Time, 18) || '/' || PM2_5 from PM2_5 union select "
-                      "substr(Time, 18) || '/' || Temp || '/' || Hum from TempAndHum"),
-                 "01/0/45 03/0/46 04/1/46 05/0/45 06/35 08/0/45 09/35");
-        QVERIFY(log.count("Insert fail!") == 5 && !log.contains("QSql"));
+    }
+
+    void retention_data()
+    {
+        addRows<Clock>({{"first second of the day", midnight, oldest},
+                        {"last second of the day", midnight + 86399, oldest},
+                        {"clock never set", 20, 0}});
     }
 
     void retention()
     {
-        const qint64 midnight = noon - 43200;
-        const qint64 oldest = midnight - 518400;
-        const std::map<qint64, qint64> cutoffs{
-            {midnight, oldest}, {midnight + 86399, oldest}, {20, 0}};
-        for (const auto &[now, cutoff] : cutoffs) {
-            for (const QString table : {"PM2_5", "TempAndHum", "PM2_5_NoWiFi"}) {
-                read("delete from " + table);
-                for (const qint64 time : {cutoff, cutoff + 1, now})
-                    read(QString("insert into %1 (UnixSec) values (%2)").arg(table).arg(time));
-                database->DeleteDataBaseTimeItem(table, long(now));
-                QCOMPARE(read("select count(*) from " + table), table.endsWith("Fi") ? "3" : "2");
-            }
+        QFETCH(Clock, row);
+        for (const QString table : {"PM2_5", "TempAndHum", "PM2_5_NoWiFi"}) {
+            for (const qint64 time : {row.cutoff, row.cutoff + 1, row.now})
+                read(QString("insert into %1 (UnixSec) values (%2)").arg(table).arg(time));
+            database->DeleteDataBaseTimeItem(table, long(row.now));
+            QCOMPARE(read("select count(*) from " + table), table.endsWith("Fi") ? "3" : "2");
         }
     }
 
@@ -76,13 +111,22 @@ private slots:
         for (int i = 0; i < GETDATA_MAX_OBJECTS + 10; ++i)
             database->InsertDataBaseItem(noon + i, "TempAndHum", i, 0);
         QCOMPARE(GetData::objects().size(), GETDATA_MAX_OBJECTS);
-        init(); // a start anew keeps what is there
+        const GetData startedAnew;
         QCOMPARE(read("select count(*) from TempAndHum"), "42");
         QCOMPARE(read("select Time from TempAndHum where Temp = 5"), "2024-03-09 12:00:05");
+        QVERIFY(QFile::remove("ZellQt4.db"));
+        database->InsertDataBaseItem(noon, "TempAndHum", 7, 0);
+        QCOMPARE(read("select Temp from TempAndHum"), "7");
     }
 
-    void lockedFileAndFullDisk()
+    void rowIsLostButNotTheNext_data()
     {
+        addRows<Trouble>({{"locked file", "begin exclusive", false}, {"full disk", "", true}});
+    }
+
+    void rowIsLostButNotTheNext()
+    {
+        QFETCH(Trouble, row);
         auto other = QSqlDatabase::addDatabase("QSQLITE", "other program");
         other.setDatabaseName("ZellQt4.db");
         QVERIFY(other.open());
@@ -90,41 +134,46 @@ private slots:
         getrlimit(RLIMIT_FSIZE, &room);
         const rlimit none{0, room.rlim_max};
         signal(SIGXFSZ, SIG_IGN);
-        for (const bool locked : {true, false}) {
-            locked ? other.exec("begin exclusive") : QSqlQuery();
-            setrlimit(RLIMIT_FSIZE, locked ? &room : &none);
-            const MessageLog log;
-            const QDeadlineTimer deadline(2000);
-            database->DeleteDataBaseTimeItem("TempAndHum", noon);
-            database->InsertDataBaseItem(noon, "TempAndHum", 23, locked);
-            const bool quick = !deadline.hasExpired();
-            setrlimit(RLIMIT_FSIZE, &room);
-            other.exec("rollback");
-            QVERIFY(quick && log.count("Insert fail!") == 1 && !log.contains("QSql"));
-            database->InsertDataBaseItem(noon + 1, "TempAndHum", 23, locked);
-        }
-        QCOMPARE(read("select Hum from TempAndHum"), "1 0");
+        other.exec(row.statement);
+        setrlimit(RLIMIT_FSIZE, row.isDiskFull ? &none : &room);
+        const MessageLog log;
+        const QDeadlineTimer deadline(2000);
+        database->DeleteDataBaseTimeItem("TempAndHum", noon);
+        database->InsertDataBaseItem(noon, "TempAndHum", 23, 45);
+        const bool isQuick = !deadline.hasExpired();
+        setrlimit(RLIMIT_FSIZE, &room);
+        other.exec("rollback");
+        QVERIFY(isQuick);
+        QCOMPARE(log.count("Insert fail!"), 1);
+        QVERIFY(!log.contains("QSql"));
+        database->InsertDataBaseItem(noon + 1, "TempAndHum", 23, 45);
+        QCOMPARE(read("select Hum from TempAndHum"), "45");
+    }
+
+    void damagedFileIsSetAside_data()
+    {
+        addRows<Damage>({{"no database", "no database"}, {"torn", {}}});
     }
 
     void damagedFileIsSetAside()
     {
+        QFETCH(Damage, row);
         read("insert into PM2_5 with recursive n(i) as (select 1 union all select i + 1 from n "
              "where i < 1000) select i, '', 7 from n");
         QFile file("ZellQt4.db");
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray damaged[] = {"no database", file.read(5000)};
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const QByteArray damaged = row.content.isNull() ? file.read(5000) : row.content;
+        QVERIFY(file.resize(0));
+        QVERIFY(file.seek(0));
+        file.write(damaged);
         file.close();
-        for (const QByteArray &content : damaged) {
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-            file.close();
-            init();
-            database->InsertDataBaseItem(noon, "TempAndHum", 23, 45);
-            database->DeleteDataBaseTimeItem("PM2_5", noon);
-            database->InsertDataBaseItem(noon + 1, "PM2_5", 0, 35);
-            QCOMPARE(read("select Temp || ' ' || PM2_5 from TempAndHum, PM2_5"), "23 35");
-            QFile aside("ZellQt4.db.damaged" + QString(content == damaged[0] ? "1" : "2"));
-            QVERIFY(aside.open(QIODevice::ReadOnly) && aside.readAll() == content);
-        }
+        const GetData startedAnew;
+        database->InsertDataBaseItem(noon, "TempAndHum", 23, 45);
+        database->DeleteDataBaseTimeItem("PM2_5", noon);
+        database->InsertDataBaseItem(noon + 1, "PM2_5", 0, 35);
+        QCOMPARE(read("select Temp || ' ' || PM2_5 from TempAndHum, PM2_5"), "23 35");
+        const QString aside = row.content.isNull() ? "damaged2" : "damaged1";
+        QCOMPARE(Environment::contentOf("ZellQt4.db." + aside), damaged);
     }
 };
 
