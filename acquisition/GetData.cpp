@@ -2,59 +2,28 @@
 
 #include "acquisition/PM25Uart.h"
 #include "device/DevicePath.h"
-#include "shell/Global_cfg.h"
-#include "store/StoreRules.h"
 #include "store/ZellDatabase.h"
 
 #include <QDebug>
 #include <QRandomGenerator>
 #include <QTimer>
-#include <chrono>
 #include <utility>
 
 GetData *getData = nullptr;
-
-int GetData::iPmNum = 0;
-int GetData::iTotalPmValue = 0;
-int GetData::iLastPm = 0;
-int GetData::iLastTemperature = 0;
-int GetData::iLastHumidity = 0;
-int GetData::iTempHumNum = 0;
-int GetData::iTotalTempValue = 0;
-int GetData::iTotalHumValue = 0;
-time_t GetData::iLastUnixSec = 0;
+// Kept[spare-timer]: nobody starts it or listens to it.
+QTimer *randUARTSignal = nullptr;
 
 namespace {
-constexpr std::chrono::milliseconds refreshInterval{1000};
+using namespace std::chrono_literals;
+
+constexpr auto refreshInterval = 1s;
 constexpr std::chrono::milliseconds samplingInterval{PM25_SAMPING_INTERVAL};
 constexpr std::chrono::milliseconds samplingDuration{PM25_SAMPING_DURATION};
 constexpr int pmReadingsPerRow = 10000;
 constexpr int pmBenchRange = 500;
 
-/// Never destroyed: a scheduler may live until the very end of the program.
-QList<GetData *> &allObjects()
-{
-    static auto *objects = new QList<GetData *>;
-    return *objects;
-}
-
-/// Reads the sensor. A fault that lasts is written once, whichever scheduler meets it.
-TempHumReading readTempHum()
-{
-    static bool isFaultKnown = false;
-    const QString path =
-        devicePath(QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity"));
-    const TempHumReading reading = parseTempHum(readSensorFile(path));
-    const bool isFaulty =
-        reading.temperature == invalidReading || reading.humidity == invalidReading;
-    if (isFaulty && !isFaultKnown)
-        qDebug() << "No valid temperature and humidity in" << path;
-    isFaultKnown = isFaulty;
-    return reading;
-}
-
-/// Notes @p value as the last one of the class and of one scheduler. Whether that has not told its
-/// listeners yet; it asks its own memory, as any other scheduler may have met the change first.
+// Notes value as the last one of the class and of one scheduler. Whether that has not told its
+// listeners yet; it asks its own memory, as any other scheduler may have met the change first.
 bool isNews(int value, std::optional<int> &reported, int &last)
 {
     last = value;
@@ -69,18 +38,15 @@ time_t currentTime()
 
 GetData::GetData(QObject *parent)
     : QThread(parent)
-    , samplingState(PM25_NO_SAMPING)
 {
-    allObjects().append(this);
+    all.append(this);
     // Before the link below is built: it connects to the program-wide scheduler.
-    if (getData == nullptr)
+    if (!getData)
         getData = this;
     Variable_Init();
-    if (zelldatabase == nullptr)
+    if (!zelldatabase)
         return;
-    zelldatabase->CreateDataBase(QStringLiteral("ZellQt4.db"));
-    for (const QString &statement : tableStatements())
-        zelldatabase->CreateDataBaseTable(statement);
+    zelldatabase->openMeasurements();
     connect(this, &GetData::signal_insertDataBaseItem, zelldatabase,
             &ZellDatabase::InsertDataBaseItem);
 }
@@ -89,7 +55,7 @@ GetData::~GetData()
 {
     quit();
     wait();
-    allObjects().removeOne(this);
+    all.removeOne(this);
     if (getData == this)
         getData = nullptr;
 }
@@ -100,6 +66,8 @@ void GetData::Variable_Init()
     refreshTimer = addTimer("refreshTimer", &GetData::refresh_allData);
     samplingTimer = addTimer("samplingTimer", &GetData::start_PM25_samping_slot);
     stopTimer = addTimer("stopTimer", &GetData::stop_PM25_samping_slot);
+    // A coarse timer would end a window up to half a second early.
+    stopTimer->setTimerType(Qt::PreciseTimer);
     refreshTimer->start(refreshInterval);
     samplingTimer->start(samplingInterval);
 }
@@ -119,11 +87,13 @@ bool GetData::isNetworkAvailable() const
 
 const QList<GetData *> &GetData::objects()
 {
-    return allObjects();
+    return all;
 }
 
+// Kept[empty-thread]: each slot starts a thread that ends at once.
 void GetData::run() {}
 
+// Kept[spare-slots]: like the slots for one field and for random values, it serves nobody.
 void GetData::PM25DataHandle_slot(int /*iData*/) {}
 
 void GetData::refresh_allData()
@@ -131,15 +101,31 @@ void GetData::refresh_allData()
     refresh_tempHumData();
 }
 
+// A fault that lasts is written once, whichever scheduler meets it.
+TempHumReading GetData::readTempHum()
+{
+    const QString path =
+        devicePath(QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity"));
+    const TempHumReading reading = parseTempHum(readSensorFile(path));
+    const bool isFaulty =
+        reading.temperature == invalidReading || reading.humidity == invalidReading;
+    if (isFaulty && !isSensorFaultTold)
+        qDebug() << "No valid temperature and humidity in" << path;
+    isSensorFaultTold = isFaulty;
+    return reading;
+}
+
 void GetData::refresh_tempHumData()
 {
     quit();
+    // Kept[shared-counters]: every scheduler counts, so that a row is due the sooner the more there
+    // are.
     ++iTempHumNum;
     TempHumReading reading = readTempHum();
     reportChanges(reading);
 
     iTotalTempValue += reading.temperature;
-    // Not a sum over the period: the stored humidity follows from the last reading alone.
+    // Kept[humidity-no-sum]: the stored humidity follows from the last reading alone.
     iTotalHumValue = reading.humidity + reading.temperature;
     if (iTempHumNum == TEMPHUM_TIME_duration)
         reading = storeAverages();
@@ -158,7 +144,7 @@ void GetData::reportChanges(const TempHumReading &reading)
         emit signal_updateHumData(reading.humidity);
 }
 
-/// Asks for the row that is due and starts the next period. Returns the averages.
+// Asks for the row that is due and starts the next period. Returns the averages.
 TempHumReading GetData::storeAverages()
 {
     const TempHumReading average{validAverage(iTotalTempValue / TEMPHUM_TIME_duration),
@@ -173,7 +159,7 @@ TempHumReading GetData::storeAverages()
 void GetData::insertPruned(const QString &tableName, int value, int value2)
 {
     const time_t now = currentTime();
-    if (zelldatabase != nullptr)
+    if (zelldatabase)
         zelldatabase->DeleteDataBaseTimeItem(tableName, now);
     emit signal_insertDataBaseItem(now, tableName, value, value2);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "acquisition/SensorText.h"
+#include "shell/Global_cfg.h"
 
 #include <QList>
 #include <QString>
@@ -34,23 +35,24 @@ public:
     /// Opens the sensor link for ten seconds, whether it is open already or not.
     void start_PM25_samping();
 
-    /// Whether the device has a network; while it has, the tables for rows without stay empty.
+    /// Tells whether the device has a network; while it has, the tables for rows without stay
+    /// empty.
     bool isNetworkAvailable() const;
 
-    /// Every scheduler there is, the oldest first.
+    /// Lists every scheduler there is, the oldest first.
     static const QList<GetData *> &objects();
 
     // What all schedulers share. Sums and counts since the last row, the values read last by any
     // of them, and the time of the row stored last (Unix seconds, kept by the database).
-    static int iPmNum;
-    static int iTotalPmValue;
-    static int iLastPm;
-    static int iLastTemperature;
-    static int iLastHumidity;
-    static int iTempHumNum;
-    static int iTotalTempValue;
-    static int iTotalHumValue;
-    static time_t iLastUnixSec;
+    inline static int iPmNum = 0;
+    inline static int iTotalPmValue = 0;
+    inline static int iLastPm = 0;
+    inline static int iLastTemperature = 0;
+    inline static int iLastHumidity = 0;
+    inline static int iTempHumNum = 0;
+    inline static int iTotalTempValue = 0;
+    inline static int iTotalHumValue = 0;
+    inline static time_t iLastUnixSec = 0;
 
 signals:
     void signal_updatePMData(int iPm);
@@ -63,6 +65,9 @@ public slots:
     /// Takes what a sensor link hands over; nothing is done with it.
     void PM25DataHandle_slot(int iData);
 
+protected:
+    void run() override;
+
 private slots:
     void refresh_allData();
     int get_pmData();
@@ -71,10 +76,8 @@ private slots:
     void start_PM25_samping_slot();
     void stop_PM25_samping_slot();
 
-protected:
-    void run() override;
-
 private:
+    static TempHumReading readTempHum();
     void Variable_Init();
     void refresh_tempHumData();
     void reportChanges(const TempHumReading &reading);
@@ -82,12 +85,15 @@ private:
     void insertPruned(const QString &tableName, int value, int value2);
     QTimer *addTimer(const char *name, void (GetData::*slot)());
 
+    inline static QList<GetData *> all;
+    inline static bool isSensorFaultTold = false;
+
     bool networkAvailable = true;
     QTimer *refreshTimer = nullptr;
     QTimer *samplingTimer = nullptr;
     QTimer *stopTimer = nullptr;
     int currentPm = 0;
-    int samplingState;
+    int samplingState = PM25_NO_SAMPING;
     std::unique_ptr<PM25Uart> uart;
     std::optional<int> reportedPm;
     std::optional<int> reportedTemperature;
@@ -96,3 +102,6 @@ private:
 
 /// The program-wide scheduler: the first one built, null before and after its life.
 extern GetData *getData;
+
+/// Its spare timer, never started. Made by main; null before and after its life.
+extern QTimer *randUARTSignal;

@@ -22,6 +22,8 @@ quint16 pm25Checksum(QByteArrayView frame)
     if (frame.size() < pm25FrameLength)
         return 0;
     quint16 sum = 0;
+    // Kept[checksum-gaps]: the fourth byte of each group and the two before the checksum do not
+    // count.
     for (qsizetype group = 0; group < summedBytes; group += groupLength) {
         sum = quint16(sum + quint8(frame[group]) + quint8(frame[group + 1]) +
                       (quint8(frame[group + 2]) << 8));
@@ -31,7 +33,7 @@ quint16 pm25Checksum(QByteArrayView frame)
 
 int PM2_5_dataHandle(QByteArray *frame)
 {
-    const QByteArrayView bytes = frame != nullptr ? QByteArrayView(*frame) : QByteArrayView();
+    const QByteArrayView bytes = frame ? QByteArrayView(*frame) : QByteArrayView();
     const quint16 sum = pm25Checksum(bytes);
     if (bytes.size() < pm25FrameLength ||
         sum != qFromBigEndian<quint16>(bytes.data() + checksumOffset)) {

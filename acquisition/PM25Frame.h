@@ -7,13 +7,13 @@
 /// an unsigned 32-bit number at offset 16, least significant byte first, and end with the checksum,
 /// high byte first. Thread-safe.
 
-/// Length of a frame in bytes.
+/// The length of a frame in bytes.
 inline constexpr qsizetype pm25FrameLength = 60;
 
-/// Whether @p bytes have the length and the first two bytes of a frame.
+/// Tells whether @p bytes have the length and the first two bytes of a frame.
 bool isPm25Frame(QByteArrayView bytes);
 
-/// The checksum of @p frame as the sensor computes it: a 16-bit sum over the 14 groups of four
+/// Computes the checksum of @p frame as the sensor does: a 16-bit sum over the 14 groups of four
 /// bytes from offset 0 to 55, each adding byte 0 + byte 1 + 256 * byte 2. The fourth byte of each
 /// group, and bytes 56 and 57, are not summed. 0 for anything shorter than a frame.
 quint16 pm25Checksum(QByteArrayView frame);

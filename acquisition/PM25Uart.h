@@ -4,13 +4,14 @@
 
 #include <QElapsedTimer>
 #include <QObject>
-#include <QSerialPort>
-#include <QString>
+#include <QPointer>
 
-/// The link to the PM2.5 sensor: its supply switch and its serial line, 9600 baud, 8N1.
+class SharedPort;
+
+/// The link to the PM2.5 sensor: its supply switch and its serial line.
 ///
-/// GUI thread; nothing here waits. Frames are decoded to the debug output only: listeners of
-/// signal_updatePMData() are told the same number after every burst.
+/// GUI thread; nothing here waits. Links that are open at the same time share line and supply: each
+/// gets what arrives, and both stay on until the last one is closed.
 class PM25Uart : public QObject
 {
     Q_OBJECT
@@ -20,12 +21,12 @@ public:
     /// Closes a link that is still open, so that the sensor is not left running.
     ~PM25Uart() override;
 
-    /// Switches the supply on and opens the port @p name ("ttyUSB0"). The port of the time before
-    /// is given up first, as a line serves one port only. False, with a debug line and the supply
-    /// left on, where it cannot be opened.
+    /// Switches the supply on and opens the port @p name ("ttyUSB0"), after closing the one of the
+    /// time before. False, with a debug line and the supply left on, where it cannot be opened.
     bool openUart(const QString &name);
 
-    /// Switches the supply off and closes the port. Harmless where nothing is open.
+    /// Switches the supply off and closes the port, where no other link is open. Harmless where
+    /// nothing is.
     void closeUart();
 
     /// Write "1" and "0" to the sensor's supply switch. Silent where it cannot be opened.
@@ -39,15 +40,15 @@ signals:
     void signal_updatePMData(int iData);
     void signal_PMDataHandle(int iData);
 
-private slots:
+public slots:
+    /// Takes one burst of the open port. Does nothing on a closed link.
     void rxDataReady_slot();
 
 private:
-    void listen();
-    void portFailed(const QSerialPort *failed, QSerialPort::SerialPortError error);
+    void greet();
+    void leavePort();
     void switchSupply(char state, const char *message);
 
-    QSerialPort *port = nullptr;
+    QPointer<SharedPort> port;
     QElapsedTimer elapsed;
-    bool linkOpen = false;
 };

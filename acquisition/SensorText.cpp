@@ -13,10 +13,10 @@ constexpr int lowestTemperature = -40;
 constexpr int highestTemperature = 100;
 constexpr int highestHumidity = 100;
 constexpr int highestAverage = 2000;
-/// A sysfs file never holds more than a page.
+// A sysfs file never holds more than a page.
 constexpr qint64 longestFile = 4096;
 
-/// The whole units of the field at @p position. @p valid decides on a number that is there.
+// The whole units of the field at position. valid decides on a number that is there.
 int readField(const QString &text, int position, int (*valid)(int))
 {
     bool isNumber = false;
@@ -27,6 +27,7 @@ int readField(const QString &text, int position, int (*valid)(int))
 
 int wholeUnits(int thousandths)
 {
+    // Kept[round-below-zero]: towards zero there, half up above.
     return int((qint64(thousandths) + 500) / 1000);
 }
 
@@ -38,6 +39,7 @@ int validTemperature(int temperature)
 
 int validHumidity(int humidity)
 {
+    // Kept[negative-humidity]: passes.
     return humidity <= highestHumidity ? humidity : invalidReading;
 }
 

@@ -12,17 +12,17 @@ struct TempHumReading
     int humidity;
 };
 
-/// @p thousandths to whole units: half up for positive values, towards zero behind that.
+/// Rounds @p thousandths to whole units: half up for positive values, towards zero behind that.
 int wholeUnits(int thousandths);
 
-/// @p temperature in °C where it lies in -40 ... 100, otherwise invalidReading.
+/// Gives @p temperature in °C where it lies in -40 ... 100, otherwise invalidReading.
 int validTemperature(int temperature);
 
-/// @p humidity in per cent up to 100, otherwise invalidReading. A negative one passes.
+/// Gives @p humidity in per cent up to 100, otherwise invalidReading. A negative one passes.
 int validHumidity(int humidity);
 
-/// @p value up to 2000, otherwise invalidReading: for PM2.5 values and averages in µg/m³ and for
-/// average temperatures, where some readings of the period were invalid.
+/// Gives @p value up to 2000, otherwise invalidReading: for PM2.5 values and averages in µg/m³ and
+/// for average temperatures, where some readings of the period were invalid.
 int validAverage(int value);
 
 /// Reads both fields of the sensor's @p text (UTF-8): thousandths of °C in characters 7 to 11 and
@@ -30,6 +30,6 @@ int validAverage(int value);
 /// temperature cut short, gives invalidReading, the other still counts.
 TempHumReading parseTempHum(const QByteArray &text);
 
-/// The content of the sensor file @p path, 4 KiB at the most. Empty where it cannot be read or is
-/// no regular file: a pipe in its place never makes this wait.
+/// Reads the sensor file @p path, 4 KiB at the most. Empty where it cannot be read or is no regular
+/// file: a pipe in its place never makes this wait.
 QByteArray readSensorFile(const QString &path);

@@ -22,6 +22,7 @@ void setLanguagePage::show_language_list()
     }
 }
 
+// Kept[list-click-hook]: the selection of the list is the choice.
 void setLanguagePage::on_listWidget_itemClicked(QListWidgetItem * /*item*/) {}
 
 void setLanguagePage::on_button_back_clicked()

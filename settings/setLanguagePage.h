@@ -19,7 +19,7 @@ public:
     void on_button_back_clicked() override;
 
 public slots:
-    /// Does nothing: the selection of the list is the choice.
+    /// Does nothing.
     void on_listWidget_itemClicked(QListWidgetItem *item);
 
 private:

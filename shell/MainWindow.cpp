@@ -22,6 +22,7 @@ constexpr auto tick = 1s;
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
+    // Kept[unused-link]: uart is never opened, the line belongs to the schedulers.
     // Flags that change later have the style sheet applied to every widget once more.
     : QMainWindow(parent, Qt::Window | Qt::FramelessWindowHint)
     , ui(std::make_unique<Ui::MainWindow>())

@@ -42,7 +42,6 @@ private:
     std::unique_ptr<Ui::MainWindow> ui;
     MainView *mainView = nullptr;
     bool active = true;
-    /// Never opened: the line belongs to the schedulers.
     PM25Uart uart;
     OptionPage *optionPage = nullptr;
 };

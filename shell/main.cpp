@@ -21,7 +21,7 @@ int main(int argc, char *argv[])
     const auto database = std::make_unique<ZellDatabase>();
     zelldatabase = database.get();
     GetData scheduler;
-    QTimer randUARTSignal; // a spare: never started
+    randUARTSignal = new QTimer(&scheduler);
     Q_INIT_RESOURCE(ZellQt);
 
     const Language language = Language::stored();

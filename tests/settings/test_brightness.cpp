@@ -21,8 +21,7 @@ class TestBrightness : public QObject
     };
     struct Tool
     {
-        const char *name;
-        const char *commands;
+        const char *name, *commands;
     };
 
 private slots:
