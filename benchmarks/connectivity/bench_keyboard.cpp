@@ -1,3 +1,4 @@
+#include "benchmarks/support/Screen.h"
 #include "benchmarks/support/Yardstick.h"
 #include "connectivity/KeyBorad.h"
 #include "pages/Ground.h"
@@ -6,7 +7,6 @@
 #include <QApplication>
 #include <QFrame>
 #include <QLineEdit>
-#include <QTest>
 
 namespace {
 // A page with a keyboard, as its hosts are built.
@@ -21,17 +21,9 @@ struct Host
         line.setGeometry(71, 100, 712, 48);
         line.setEchoMode(QLineEdit::Password);
         new KeyBorad(container);
-        page.show();
-        if (!QTest::qWaitForWindowExposed(&page))
-            qFatal("no window");
+        showOnScreen(&page);
         tapAt(&page, key);
         repaint();
-    }
-
-    static void repaint()
-    {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
     }
 
     static constexpr QPoint key{427, 326};
@@ -47,12 +39,12 @@ void keyPress(benchmark::State &state)
         state, 3,
         [&host] {
             pressAt(&host.page, Host::key);
-            Host::repaint();
+            repaint();
         },
         [&host] {
             releaseAt(&host.page, Host::key);
             host.line.clear();
-            Host::repaint();
+            repaint();
         });
 }
 
@@ -64,12 +56,12 @@ void keyRelease(benchmark::State &state)
         state, 3,
         [&host] {
             releaseAt(&host.page, Host::key);
-            Host::repaint();
+            repaint();
         },
         [&host] {
             host.line.setText(QStringLiteral("12345678"));
             pressAt(&host.page, Host::key);
-            Host::repaint();
+            repaint();
         });
 }
 } // namespace

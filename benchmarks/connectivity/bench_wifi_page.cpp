@@ -1,3 +1,4 @@
+#include "benchmarks/support/Screen.h"
 #include "benchmarks/support/Yardstick.h"
 #include "connectivity/SetWifiPage.h"
 #include "testkit/Environment.h"
@@ -7,22 +8,13 @@
 #include <QScrollBar>
 
 namespace {
-void repaint()
-{
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-}
-
 struct Screen
 {
     Screen()
     {
         if (!Environment::device().setNetworks(QStringList(500, QStringLiteral("Network"))))
             qFatal("no scanner");
-        window.resize(854, 480);
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            qFatal("no window");
+        showOnScreen(&window);
     }
 
     SetWifiPage *open()

@@ -1,10 +1,10 @@
+#include "benchmarks/support/Screen.h"
 #include "benchmarks/support/Yardstick.h"
 #include "history/Blackboard.h"
 #include "history/DemonstrationSeries.h"
 #include "history/HistoryPage.h"
 #include "testkit/Touch.h"
 
-#include <QCoreApplication>
 #include <QTabWidget>
 
 namespace {
@@ -45,7 +45,7 @@ public:
     {
         // The read-out moves while the chart is painted and is itself painted one round later.
         for (int round = 0; round < 3; ++round)
-            QCoreApplication::processEvents();
+            repaint();
     }
 
 private:

@@ -1,9 +1,14 @@
 #include "benchmarks/support/Yardstick.h"
 
-#include <algorithm>
+#include "benchmarks/support/Median.h"
+
+#include <chrono>
 #include <cstring>
+#include <vector>
 
 namespace {
+using Seconds = std::chrono::duration<double>;
+
 constexpr std::size_t frameBytes = std::size_t{854} * 480 * 4;
 int missedLimits = 0;
 
@@ -24,6 +29,13 @@ void copyFrame()
     std::memcpy(target.data(), source.data(), frameBytes);
     benchmark::DoNotOptimize(target.data());
     benchmark::ClobberMemory();
+}
+
+Seconds timeOf(const std::function<void()> &work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::steady_clock::now() - start;
 }
 } // namespace
 
@@ -57,21 +69,13 @@ void Yardstick::check(benchmark::State &state, double figure, double limit)
     compare(state, figure, limit);
 }
 
+void Yardstick::fail(benchmark::State &state, const char *reason)
+{
+    ++missedLimits;
+    state.SkipWithError(reason);
+}
+
 int Yardstick::missed()
 {
     return missedLimits;
-}
-
-Yardstick::Seconds Yardstick::timeOf(const std::function<void()> &work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::steady_clock::now() - start;
-}
-
-Yardstick::Seconds Yardstick::medianOf(std::vector<Seconds> samples)
-{
-    const auto middle = samples.begin() + std::ptrdiff_t(samples.size() / 2);
-    std::nth_element(samples.begin(), middle, samples.end());
-    return *middle;
 }

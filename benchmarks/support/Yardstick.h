@@ -1,9 +1,7 @@
 #pragma once
 
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <functional>
-#include <vector>
 
 /// Measures work in copies of a screen.
 ///
@@ -24,12 +22,9 @@ public:
     /// counters of @p state. A figure above its limit counts as missed, too.
     static void check(benchmark::State &state, double figure, double limit);
 
-    /// How many benchmarks of this program have missed their limit.
+    /// Gives a benchmark up that could not measure anything, for @p reason. Counts as missed.
+    static void fail(benchmark::State &state, const char *reason);
+
+    /// Counts the benchmarks of this program that have missed their limit.
     static int missed();
-
-private:
-    using Seconds = std::chrono::duration<double>;
-
-    static Seconds timeOf(const std::function<void()> &work);
-    static Seconds medianOf(std::vector<Seconds> samples);
 };
