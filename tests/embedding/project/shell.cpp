@@ -1,0 +1,26 @@
+#include "acquisition/GetData.h"
+#include "shell/Global_cfg.h"
+#include "shell/MainWindow.h"
+#include "store/ZellDatabase.h"
+
+void shell()
+{
+    Q_INIT_RESOURCE(ZellQt);
+    const int constants[] = {PM25_SAMPING_INTERVAL, PM25_SAMPING_DURATION, PM25_NUMBER,
+                             PM25_NO_SAMPING,       PM25_SAMPING_WAIT,     PM25_SAMPING,
+                             PM25_ERROR_DATA,       PM25_SAMPING_END_DATA, TEMPHUM_TIME_duration};
+    g_sLanguage = QString::number(constants[0]);
+    zelldatabase = new ZellDatabase;
+    getData = new GetData;
+
+    MainWindow window(nullptr);
+    QMainWindow *base = &window;
+    QObject::connect(&window, &MainWindow::signal_update, base, &QWidget::close);
+    QObject::connect(&window, &MainWindow::signal_activeStatus, base, &QWidget::close);
+    QObject::connect(&window, &MainWindow::signal_inactiveStatus, base, &QWidget::close);
+    window.time_update();
+    window.change_status();
+    window.jump_toOption();
+    window.jump_toMainPage();
+    window.anOption_finished();
+}
