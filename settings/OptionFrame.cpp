@@ -5,7 +5,9 @@
 #include <cstdlib>
 
 namespace {
-constexpr std::chrono::milliseconds holdLimit{1000};
+using namespace std::chrono_literals;
+
+constexpr auto holdLimit = 1000ms;
 constexpr int dragLimit = 100;
 } // namespace
 
@@ -13,6 +15,8 @@ OptionFrame::OptionFrame(QWidget *parent)
     : QFrame(parent)
 {
     holdTimer.setSingleShot(true);
+    // A coarse timer may be 50 ms early: a tap of 970 ms would be none.
+    holdTimer.setTimerType(Qt::PreciseTimer);
     holdTimer.setInterval(holdLimit);
     connect(&holdTimer, &QTimer::timeout, this, &OptionFrame::change_status);
 }

@@ -4,7 +4,7 @@
 #include <QPoint>
 #include <QTimer>
 
-/// A frame that is tapped as a whole: the tiles of the settings menu and of the main screen.
+/// Reports taps on itself as a whole: the tile of the settings menu and of the main screen.
 ///
 /// Presses and releases go on to the parent as well, so that a list scrolls when a drag starts on a
 /// tile. GUI thread.
@@ -16,11 +16,11 @@ public:
     explicit OptionFrame(QWidget *parent = nullptr);
 
 signals:
-    /// A tap: released within a second and less than 100 px from the press on both axes.
+    /// Tells of a tap: released within a second and less than 100 px from the press on both axes.
     void clicked();
 
 public slots:
-    /// The press has lasted too long for a tap.
+    /// Takes the press for too long to be a tap.
     void change_status();
 
 protected:
@@ -32,7 +32,7 @@ private:
     QPoint pressPosition;
     QPoint releasePosition;
     bool pressed = false;
-    // One timer restarted by every press: with one single-shot per press, the timer of a first tap
-    // would spoil a second one shortly after it.
+    // Restarted by every press: with one single-shot per press, the timer of a first tap would
+    // spoil a second one shortly after it.
     QTimer holdTimer{this};
 };

@@ -1,34 +1,56 @@
 #include "settings/OptionFrame.h"
 #include "testkit/Environment.h"
+#include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
 #include <QSignalSpy>
+
+namespace {
+struct Tap
+{
+    const char *name;
+    QPoint moved;
+    QPoint scrolled;
+    int taps;
+};
+} // namespace
 
 class TestOptionFrame : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void tapNeedsTheFingerNear()
+    void init()
     {
         tile->setGeometry(300, 200, 300, 96);
         ground.resize(854, 480);
         ground.show();
-        for (const QPoint &moved : {QPoint(-99, 99), QPoint(-100, 0), QPoint(0, 100)})
-            drag(&ground, middle, middle + moved);
-        QCOMPARE(taps.size(), 1);
-        pressAt(&ground, middle);
-        tile->move(tile->pos() + QPoint(0, 100));
-        releaseAt(&ground, middle + QPoint(0, 100));
-        QCOMPARE(taps.size(), 1);
-        tile->move(tile->pos() - QPoint(0, 100));
         taps.clear();
+    }
+
+    void tapNeedsTheFingerNear_data()
+    {
+        addRows<Tap>({{"near on both axes", {-99, 99}, {}, 1},
+                      {"far to the left", {-100, 0}, {}, 0},
+                      {"far down", {0, 100}, {}, 0},
+                      {"far with its tile", {0, 100}, {0, 100}, 0}});
+    }
+
+    void tapNeedsTheFingerNear()
+    {
+        QFETCH(Tap, row);
+        pressAt(&ground, middle);
+        tile->move(tile->pos() + row.scrolled);
+        moveTo(&ground, middle + row.moved);
+        releaseAt(&ground, middle + row.moved);
+        QCOMPARE(taps.size(), row.taps);
     }
 
     void holdIsNoTapButASecondTapIsOne()
     {
         auto *holdTimer = tile->findChild<QTimer *>();
         QCOMPARE(holdTimer->interval(), 1000);
+        QCOMPARE(holdTimer->timerType(), Qt::PreciseTimer);
         tapAt(&ground, middle);
         QTRY_VERIFY(holdTimer->remainingTime() < 800);
         tapAt(&ground, middle);
