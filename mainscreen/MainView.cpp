@@ -111,6 +111,8 @@ void MainView::connect_init()
 void MainView::animation_init()
 {
     timeLine = new QTimeLine(int(slideTime.count()), this);
+    // Until the first slide, which brings its own.
+    timeLine->setFrameRange(0, 100);
     timeLine->setUpdateInterval(int(tick.count()));
     timeLine->setEasingCurve(QEasingCurve::Linear);
     connect(timeLine, &QTimeLine::frameChanged, this, &MainView::change_page);

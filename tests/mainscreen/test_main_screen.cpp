@@ -127,6 +127,7 @@ private slots:
 
     void aSlideTakesNothingElseAndChangesNoPicture()
     {
+        QCOMPARE(std::pair(timeLine->startFrame(), timeLine->endFrame()), std::pair(0, 100));
         const QImage before = window->grab().toImage();
         // Applied anew, the style sheet must not put anything behind the transparent pages.
         qApp->setStyleSheet(qApp->styleSheet() + QStringLiteral("QDial {color: red}"));
