@@ -1,5 +1,7 @@
 #include "history/Blackboard.h"
 
+#include "pages/Quantity.h"
+
 #include <QDebug>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -17,16 +19,11 @@ constexpr int rangeDivisions = 3;
 // Where one rectangle costs more than the two markers in it, in pixels.
 constexpr int widestRepaint = 200;
 
+// Any number that is no quantity's counts as humidity.
 QString unitOf(int type)
 {
-    switch (type) {
-    case 1:
-        return QStringLiteral("μg/m³");
-    case 2:
-        return QStringLiteral("℃");
-    default:
-        return QStringLiteral("%");
-    }
+    const QuantityLook *look = lookOf(type);
+    return (look ? *look : lookOf(Quantity::Humidity)).unit.toString();
 }
 } // namespace
 

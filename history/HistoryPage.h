@@ -1,6 +1,7 @@
 #pragma once
 
 #include "history/LocalTime.h"
+#include "pages/Quantity.h"
 
 #include <QColor>
 #include <QTimer>
@@ -29,8 +30,7 @@ public:
                          LocalTime::Clock currentTime = LocalTime::systemClock);
     ~HistoryPage() override;
 
-    /// Makes @p newQuantity (1 PM2.5, 2 temperature, 3 humidity) the one that the next loadData()
-    /// shows.
+    /// Makes @p newQuantity, the number of a Quantity, the one that the next loadData() shows.
     void showing(int newQuantity);
     void hiding();
     /// Builds the series up to the present day and hands it to the chart.
@@ -67,7 +67,7 @@ private:
     void selectDay(int day);
 
     LocalTime::Clock clock;
-    int quantity = 2;
+    int quantity = int(Quantity::Temperature);
     std::unique_ptr<Ui::HistoryPage> ui;
     SlideLabel *slideLabel;
     Blackboard *blackboard;

@@ -3,24 +3,18 @@
 #include "history/HistoryPage.h"
 #include "mainscreen/Transparent.h"
 #include "pages/Ground.h"
+#include "pages/Quantity.h"
 #include "pages/SlideIn.h"
 #include "shell/Global_cfg.h"
 #include "ui_BaseScene.h"
 
 #include <QDebug>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QParallelAnimationGroup>
 #include <QPropertyAnimation>
 #include <algorithm>
 
 namespace {
-constexpr int pmPage = 1;
-constexpr int temperaturePage = 2;
-constexpr int humidityPage = 3;
-/// The page's own logo is a caption, a little darker than the logos of the tiles.
-constexpr qreal logoOpacity = 0.87;
-
 // The picture of the dashes stands lower than a line of text would.
 void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> companions)
 {
@@ -71,45 +65,18 @@ void BaseScene::animation_init()
 
 void BaseScene::change_currentPage(int page)
 {
-    switch (page) {
-    case pmPage:
-        showTiles(false, true, true);
-        ui->label_unit->show();
-        ui->label_logo->setText(QStringLiteral("PM2.5"));
-        break;
-    case temperaturePage:
-        showTiles(true, false, true);
-        ui->label_unit->hide();
-        showLogo(QStringLiteral("logoTemperature"));
-        break;
-    case humidityPage:
-        showTiles(true, true, false);
-        ui->label_unit->hide();
-        showLogo(QStringLiteral("logoHumidity"));
-        break;
-    default:
-        break;
+    if (const QuantityLook *look = lookOf(page)) {
+        ui->frame_pm->setVisible(look->quantity != Quantity::Pm);
+        ui->frame_temperature->setVisible(look->quantity != Quantity::Temperature);
+        ui->frame_humidity->setVisible(look->quantity != Quantity::Humidity);
+        // The unit of the caption, not of a tile.
+        ui->label_unit->setVisible(look->unitPicture.isEmpty());
+        if (look->logo.isEmpty())
+            ui->label_logo->setText(look->title.toString());
+        else
+            ui->label_logo->setPixmap(QPixmap(look->logo.toString()));
     }
     historyPage->showing(page);
-}
-
-void BaseScene::showTiles(bool pm, bool temperature, bool humidity)
-{
-    ui->frame_pm->setVisible(pm);
-    ui->frame_temperature->setVisible(temperature);
-    ui->frame_humidity->setVisible(humidity);
-}
-
-void BaseScene::showLogo(const QString &name)
-{
-    const QPixmap bright(QStringLiteral(":/resource/images/mainPage/logo/%1.png").arg(name));
-    QPixmap logo(bright.size());
-    logo.fill(Qt::transparent);
-    QPainter painter(&logo);
-    painter.setOpacity(logoOpacity);
-    painter.drawPixmap(0, 0, bright);
-    painter.end();
-    ui->label_logo->setPixmap(logo);
 }
 
 void BaseScene::update_pmData(int value)
@@ -120,12 +87,13 @@ void BaseScene::update_pmData(int value)
 
 void BaseScene::update_tempData(int value)
 {
+    // label_3 is the tile's unit.
     showReading(ui->label_tValue, value, {ui->label_3, ui->label_tTips});
 }
 
 void BaseScene::update_humData(int value)
 {
-    showReading(ui->label_hValue, value, {ui->label_4, ui->label_hTips});
+    showReading(ui->label_hValue, value, {ui->label_hUnit, ui->label_hTips});
 }
 
 void BaseScene::mousePressEvent(QMouseEvent *event)
@@ -152,17 +120,17 @@ void BaseScene::on_button_history_clicked()
 
 void BaseScene::on_frame_pm_clicked()
 {
-    emit signal_jumpPage(pmPage);
+    emit signal_jumpPage(int(Quantity::Pm));
 }
 
 void BaseScene::on_frame_temperature_clicked()
 {
-    emit signal_jumpPage(temperaturePage);
+    emit signal_jumpPage(int(Quantity::Temperature));
 }
 
 void BaseScene::on_frame_humidity_clicked()
 {
-    emit signal_jumpPage(humidityPage);
+    emit signal_jumpPage(int(Quantity::Humidity));
 }
 
 void BaseScene::jump_scenePage()

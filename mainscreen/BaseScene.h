@@ -21,13 +21,13 @@ public:
     explicit BaseScene(QWidget *parent = nullptr);
     ~BaseScene() override;
 
-    /// Shows the tiles and the caption that belong to @p page: 1 PM2.5, 2 temperature, 3 humidity.
-    /// Any other number leaves them as they are. The history is told the number in any case.
+    /// Shows the tiles and the caption that belong to @p page, the number of a Quantity. Any other
+    /// number leaves them as they are. The history is told the number in any case.
     void change_currentPage(int page);
 
 signals:
     void signal_jumpToOption();
-    /// The tile numbered @p iPage (from 1) was tapped.
+    /// Tells that the tile of @p iPage, the number of a Quantity, was tapped.
     void signal_jumpPage(int iPage);
 
 protected:
@@ -53,8 +53,6 @@ private:
 
     void connect_init();
     void animation_init();
-    void showTiles(bool pm, bool temperature, bool humidity);
-    void showLogo(const QString &name);
 
     std::unique_ptr<Ui::BaseScene> ui;
     std::vector<QWidget *> ownGround;

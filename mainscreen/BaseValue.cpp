@@ -61,9 +61,9 @@ void BaseValue::showRow(const DigitRow &row)
         qDebug() << objectName() << "has no picture for a digit of its reading";
 }
 
-void BaseValue::setUnitPicture(const QString &resource)
+void BaseValue::setUnitPicture(Quantity quantity)
 {
-    const QPixmap picture(resource);
+    const QPixmap picture(lookOf(quantity).unitPicture.toString());
     ui->label_symbol->setPixmap(picture);
     ui->label_symbol->setFixedWidth(picture.width());
 }

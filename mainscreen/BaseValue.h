@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainscreen/DigitRow.h"
+#include "pages/Quantity.h"
 
 #include <QPoint>
 #include <QWidget>
@@ -33,8 +34,8 @@ protected:
 
     /// Draws @p row, centred. A place without a picture is empty, with one debug line.
     void showRow(const DigitRow &row);
-    /// Replaces the picture of `label_symbol`; the label gets the picture's width.
-    void setUnitPicture(const QString &resource);
+    /// Puts the unit of @p quantity into `label_symbol`, which gets the picture's width.
+    void setUnitPicture(Quantity quantity);
     void hideUnit();
 
     /// `frame_center`: the area of the number, hidden as a whole.

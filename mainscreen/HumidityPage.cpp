@@ -12,7 +12,7 @@ HumidityPage::HumidityPage(QWidget *parent)
     : BaseValue(parent)
 {
     setObjectName(QStringLiteral("HumidityPage"));
-    setUnitPicture(QStringLiteral(":/resource/images/mainPage/num/%.png"));
+    setUnitPicture(Quantity::Humidity);
     showRow(humidityRow(valueAtStart));
 }
 

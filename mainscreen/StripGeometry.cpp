@@ -1,5 +1,7 @@
 #include "mainscreen/StripGeometry.h"
 
+#include "pages/Quantity.h"
+
 namespace strip {
 
 int frameAt(float position)
@@ -20,7 +22,7 @@ int backgroundX(float position, int viewWidth, int pictureWidth)
 
 bool hasNext(float position)
 {
-    constexpr int lastPage = 2;
+    constexpr int lastPage = int(quantities.size()) - 1;
     return int(-(position - 1)) <= lastPage;
 }
 

@@ -8,7 +8,7 @@ TemperaturePage::TemperaturePage(QWidget *parent)
     : BaseValue(parent)
 {
     setObjectName(QStringLiteral("TemperaturePage"));
-    setUnitPicture(QStringLiteral(":/resource/images/mainPage/num/°C.png"));
+    setUnitPicture(Quantity::Temperature);
     DigitRow noReadingYet = temperatureRow(invalidReading);
     noReadingYet.hidesUnit = false;
     showRow(noReadingYet);

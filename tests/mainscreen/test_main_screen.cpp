@@ -2,9 +2,11 @@
 #include "mainscreen/BaseScene.h"
 #include "mainscreen/MainView.h"
 #include "shell/MainWindow.h"
+#include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/PseudoTerminal.h"
+#include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
 #include <QGraphicsProxyWidget>
@@ -16,6 +18,24 @@
 namespace {
 constexpr QPoint freeGround(300, 60);
 constexpr QPoint pmNumber(330, 240);
+
+struct Way
+{
+    const char *name;
+    QList<int> swipes;
+    QString tile;
+    int position;
+    int backgroundX;
+    int page;
+};
+
+struct Reading
+{
+    const char *name;
+    int reading;
+    QString text;
+    int width;
+};
 } // namespace
 
 class TestMainScreen : public QObject
@@ -36,35 +56,35 @@ private slots:
             object->findChild<QTimer *>("refreshTimer")->stop();
     }
 
-    void swipesAndTileTaps()
+    void swipesAndTileTaps_data()
     {
         // The tiles count from 1, the strip from 0: this is where they lead on this device.
-        const std::tuple<QList<int>, const char *, int, int, const char *> rows[] = {
-            {{0}, "", -1, -199, "p-h"},
-            {{-1}, "", -2, -370, "pt-"},
-            {{120}, "", 0, -29, "-th"},
-            {{-9, -9, 9}, "", -1, -199, "p-h"},
-            {{9, 9, -9}, "", -1, -199, "p-h"},
-            {{}, "frame_pm", -1, -199, "p-h"},
-            {{-9}, "frame_pm", -1, -199, "pt-"},
-            {{9}, "frame_temperature", -2, -370, "-th"},
-            {{-9}, "frame_temperature", -2, -370, "pt-"},
-            {{}, "frame_humidity", -3, -541, "p-h"},
-            {{9}, "frame_humidity", -3, -541, "-th"}};
-        for (const auto &[distances, tile, expected, backgroundX, shown] : rows) {
-            init();
-            std::ranges::for_each(distances, [this](int distance) { swipe(distance); });
-            if (*tile != 0)
-                tap(tile);
-            endSlide();
-            QCOMPARE(position(), expected);
-            // The background lies below everything else.
-            QCOMPARE(int(view->scene()->items(Qt::AscendingOrder).first()->x()), backgroundX);
-            QCOMPARE(tiles(), shown);
-            QCOMPARE(embedded("label_unit")->isVisible(), *shown == '-');
-            QVERIFY(!embedded("label_2")->isVisible());
-        }
-        QCOMPARE(window->grab().toImage().pixelColor(850, 479), QColor(0x07, 0x0b, 0x0e));
+        addRows<Way>({{"a press that does not move", {0}, "", -1, -199, 2},
+                      {"a pixel to the left", {-1}, "", -2, -370, 3},
+                      {"far to the right", {120}, "", 0, -29, 1},
+                      {"on humidity nothing follows", {-9, -9, 9}, "", -1, -199, 2},
+                      {"on PM2.5 nothing precedes", {9, 9, -9}, "", -1, -199, 2},
+                      {"PM2.5 tile on temperature", {}, "frame_pm", -1, -199, 2},
+                      {"PM2.5 tile on humidity", {-9}, "frame_pm", -1, -199, 3},
+                      {"temperature tile on PM2.5", {9}, "frame_temperature", -2, -370, 1},
+                      {"temperature tile on humidity", {-9}, "frame_temperature", -2, -370, 3},
+                      {"humidity tile on temperature", {}, "frame_humidity", -3, -541, 2},
+                      {"humidity tile on PM2.5", {9}, "frame_humidity", -3, -541, 1}});
+    }
+
+    void swipesAndTileTaps()
+    {
+        QFETCH(Way, row);
+        std::ranges::for_each(row.swipes, [this](int distance) { swipe(distance); });
+        if (!row.tile.isEmpty())
+            tap(row.tile);
+        endSlide();
+        QCOMPARE(position(), row.position);
+        // The background lies below everything else.
+        QCOMPARE(int(view->scene()->items(Qt::AscendingOrder).first()->x()), row.backgroundX);
+        verifyOverlayOf(row.page);
+        if (row.position == -3)
+            QCOMPARE(window->grab().toImage().pixelColor(850, 479), QColor(0x07, 0x0b, 0x0e));
     }
 
     void overlayKeepsItsOwnPresses()
@@ -81,29 +101,32 @@ private slots:
         QCOMPARE(options.count(), 1);
     }
 
+    void readingsReachTilesAndPages_data()
+    {
+        // The first page is that of PM2.5; its row is as wide as what it shows.
+        addRows<Reading>({{"nothing", 0, "0", 329},
+                          {"below zero", -5, "-5", 329},
+                          {"four places", 1023, "1023", 433},
+                          {"not credible", 10000, "10000", 329},
+                          {"the smallest int", INT_MIN, "-2147483648", 329},
+                          {"missing", 9999, "", 225}});
+    }
+
     void readingsReachTilesAndPages()
     {
-        auto *scheduler = view->findChild<GetData *>();
-        const std::tuple<int, const char *, bool, int> steps[] = {
-            {0, "0", true, 329},          {-5, "-5", true, 329},
-            {9999, "", false, 225},       {INT_MIN, "-2147483648", false, 329},
-            {10000, "10000", false, 329}, {1023, "1023", false, 433}};
-        for (const auto &[reading, text, levels, width] : steps) {
-            emit scheduler->signal_updatePMData(reading);
-            emit scheduler->signal_updateTempData(reading);
-            emit scheduler->signal_updateHumData(reading);
-            for (const char *name : {"label_pValue", "label_tValue", "label_hValue"}) {
-                const auto *label = qobject_cast<QLabel *>(embedded(name));
-                QCOMPARE(label->text(), text);
-                QCOMPARE(label->pixmap(Qt::ReturnByValue).isNull(), reading != 9999);
-            }
-            // What 9999 takes away does not come back.
-            for (const char *name :
-                 {"label_pTips", "label_tTips", "label_hTips", "label_3", "label_4"})
-                QCOMPARE(!embedded(name)->isHidden(), levels);
-            // The first page is that of PM2.5; its row is as wide as what it shows.
-            QCOMPARE(embedded("frame_value")->width(), width);
+        QFETCH(Reading, row);
+        report(row.reading);
+        for (const char *name : {"label_pValue", "label_tValue", "label_hValue"}) {
+            const auto *label = qobject_cast<QLabel *>(embedded(name));
+            QCOMPARE(label->text(), row.text);
+            QCOMPARE(label->pixmap(Qt::ReturnByValue).isNull(), row.reading != 9999);
         }
+        QCOMPARE(embedded("frame_value")->width(), row.width);
+        // What 9999 takes away does not come back.
+        report(5);
+        for (const char *name :
+             {"label_pTips", "label_tTips", "label_hTips", "label_3", "label_hUnit"})
+            QCOMPARE(!embedded(name)->isHidden(), row.reading != 9999);
     }
 
     void tapOnTheNumberMeasures()
@@ -116,13 +139,15 @@ private slots:
         // The second tap meets the sensor's picture.
         for (const QPoint place : {pmNumber, pmNumber - QPoint(60, 0)}) {
             tapAt(window.get(), place);
-            QVERIFY(animation->isVisible() && !embedded("frame_center")->isVisible());
+            QVERIFY(animation->isVisible());
+            QVERIFY(!embedded("frame_center")->isVisible());
         }
         QCOMPARE(log.count("启动PM2.5检测"), 2);
         QVERIFY(!log.contains("待添加错误处理逻辑"));
-        QMetaObject::invokeMethod(animation->parentWidget(), "update_pmData", Q_ARG(int, 35));
+        callSlot(animation->parentWidget(), "update_pmData", Q_ARG(int, 35));
         QVERIFY(log.contains("update_pmData 35"));
-        QVERIFY(!animation->isVisible() && embedded("frame_center")->isVisible());
+        QVERIFY(!animation->isVisible());
+        QVERIFY(embedded("frame_center")->isVisible());
     }
 
     void aSlideTakesNothingElseAndChangesNoPicture()
@@ -142,7 +167,7 @@ private slots:
         tap("frame_pm");
         QTRY_COMPARE(timeLine->state(), QTimeLine::NotRunning);
         QCOMPARE(position(), -2);
-        QCOMPARE(tiles(), "pt-");
+        verifyOverlayOf(3);
         QCOMPARE(timeLine->duration(), 500);
     }
 
@@ -158,41 +183,57 @@ private slots:
             QCOMPARE(timeLine->state(), QTimeLine::NotRunning);
             QTRY_VERIFY(embedded("frame_top")->isVisible());
             tapAt(window.get(), {47, 40});
-            QVERIFY(!history->isVisible() && embedded("page_scene")->isVisible());
+            QVERIFY(!history->isVisible());
+            QVERIFY(embedded("page_scene")->isVisible());
         }
     }
 
 private:
     /// The widget of that name, of the pages in their order or of the overlay.
-    QWidget *embedded(const char *name) const
+    QWidget *embedded(const QString &name) const
     {
         QWidget *found = nullptr;
         for (QGraphicsItem *item : view->scene()->items(Qt::AscendingOrder)) {
-            if (item->isWidget() && found == nullptr)
+            if (item->isWidget() && !found)
                 found =
                     static_cast<QGraphicsProxyWidget *>(item)->widget()->findChild<QWidget *>(name);
         }
         return found;
     }
 
-    QPoint centre(const char *name) const
+    QPoint centre(const QString &name) const
     {
         const QWidget *widget = embedded(name);
         return widget->mapTo(widget->window(), widget->rect().center());
     }
 
-    void tap(const char *name) { tapAt(window.get(), centre(name)); }
+    void tap(const QString &name) { tapAt(window.get(), centre(name)); }
     double position() const
     {
         return embedded("frame_center")->window()->graphicsProxyWidget()->x() / 854;
     }
 
-    QString tiles() const
+    /// Tiles of the other two pages, name or sign of this one, its unit where its number has none.
+    void verifyOverlayOf(int page) const
     {
-        QString shown;
+        int tile = 0;
         for (const char *name : {"frame_pm", "frame_temperature", "frame_humidity"})
-            shown += embedded(name)->isVisible() ? name[6] : '-';
-        return shown;
+            QCOMPARE(embedded(name)->isVisible(), ++tile != page);
+        const QStringList signs{"", ":/resource/images/mainPage/logo/logoTemperature.png",
+                                ":/resource/images/mainPage/logo/logoHumidity.png"};
+        const auto *logo = qobject_cast<QLabel *>(embedded("label_logo"));
+        QCOMPARE(logo->text(), page == 1 ? "PM2.5" : "");
+        QCOMPARE(logo->pixmap(Qt::ReturnByValue).toImage(), QPixmap(signs[page - 1]).toImage());
+        QCOMPARE(embedded("label_unit")->isVisible(), page == 1);
+        QVERIFY(!embedded("label_2")->isVisible());
+    }
+
+    void report(int reading) const
+    {
+        auto *scheduler = view->findChild<GetData *>();
+        emit scheduler->signal_updatePMData(reading);
+        emit scheduler->signal_updateTempData(reading);
+        emit scheduler->signal_updateHumData(reading);
     }
 
     void endSlide()
