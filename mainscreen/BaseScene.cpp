@@ -1,5 +1,6 @@
 #include "mainscreen/BaseScene.h"
 
+#include "acquisition/GetData.h"
 #include "history/HistoryPage.h"
 #include "mainscreen/Transparent.h"
 #include "pages/Ground.h"
@@ -46,12 +47,20 @@ BaseScene::BaseScene(QWidget *parent)
 
 BaseScene::~BaseScene() = default;
 
+void BaseScene::follow(const GetData *scheduler)
+{
+    connect(scheduler, &GetData::signal_updatePMData, this, &BaseScene::update_pmData);
+    connect(scheduler, &GetData::signal_updateTempData, this, &BaseScene::update_tempData);
+    connect(scheduler, &GetData::signal_updateHumData, this, &BaseScene::update_humData);
+}
+
 void BaseScene::connect_init()
 {
-    connect(historyPage, &HistoryPage::signal_backDefaultPage, this, &BaseScene::jump_scenePage);
+    connect(historyPage, &HistoryPage::signal_backDefaultPage, this, &BaseScene::jump_scenePage,
+            Qt::UniqueConnection);
     // The clock of the history capsule belongs to the button beside it.
     connect(ui->button_historyLogo, &QPushButton::clicked, this,
-            &BaseScene::on_button_history_clicked);
+            &BaseScene::on_button_history_clicked, Qt::UniqueConnection);
 }
 
 // Made at start-up and kept; no motion of the overlay uses them yet.
@@ -101,9 +110,9 @@ void BaseScene::mousePressEvent(QMouseEvent *event)
     // Tiles and buttons hand on what they do not use, so every press that matters arrives here. One
     // that is not accepted goes to the reading page below.
     QWidget *touched = childAt(event->position().toPoint());
-    while (touched != nullptr && std::ranges::find(ownGround, touched) == ownGround.end())
+    while (touched && std::ranges::find(ownGround, touched) == ownGround.end())
         touched = touched->parentWidget();
-    event->setAccepted(touched != nullptr);
+    event->setAccepted(touched);
 }
 
 void BaseScene::on_button_option_clicked()

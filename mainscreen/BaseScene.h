@@ -1,18 +1,18 @@
 #pragma once
 
 #include <QWidget>
-#include <array>
 #include <memory>
 #include <vector>
 
+class GetData;
 class HistoryPage;
 namespace Ui {
 class BaseScene;
 }
 
-/// The transparent overlay of the main screen: side bar, tiles with the readings of the pages not
-/// in view, and the holder of the history page. Presses on its own tiles, buttons and bars stay
-/// here; elsewhere they go on to the page below. GUI thread.
+/// Lies transparent over the main screen: side bar, tiles with the readings of the pages not in
+/// view, and the holder of the history page. Presses on its own tiles, buttons and bars stay here;
+/// elsewhere they go on to the page below. GUI thread.
 class BaseScene : public QWidget
 {
     Q_OBJECT
@@ -25,7 +25,16 @@ public:
     /// number leaves them as they are. The history is told the number in any case.
     void change_currentPage(int page);
 
+    /// Shows on the tiles what @p scheduler reports.
+    void follow(const GetData *scheduler);
+
+    /// Connects the way back from the history and the clock beside its button, once.
+    void connect_init();
+    /// Makes the animations that are kept for the motions of the overlay.
+    void animation_init();
+
 signals:
+    /// Asks for the settings.
     void signal_jumpToOption();
     /// Tells that the tile of @p iPage, the number of a Quantity, was tapped.
     void signal_jumpPage(int iPage);
@@ -41,19 +50,13 @@ private slots:
     void on_frame_temperature_clicked();
     void jump_scenePage();
     void anHistory_finished();
-    /// Readings for the tiles. invalidReading shows dashes and hides the tile's level and unit,
-    /// which stay hidden.
+    /// Shows a reading on its tile; invalidReading shows dashes and takes the tile's level and unit
+    /// away for good.
     void update_pmData(int value);
     void update_tempData(int value);
     void update_humData(int value);
 
 private:
-    /// Connects the readings.
-    friend class MainView;
-
-    void connect_init();
-    void animation_init();
-
     std::unique_ptr<Ui::BaseScene> ui;
     std::vector<QWidget *> ownGround;
     HistoryPage *historyPage = nullptr;

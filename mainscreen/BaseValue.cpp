@@ -8,7 +8,7 @@
 #include <array>
 
 namespace {
-/// The halo around each numeral reaches into its neighbour's picture.
+// The halo around each numeral reaches into its neighbour's picture.
 constexpr int overlap = 17;
 
 void showGlyph(QLabel *label, Glyph glyph)
@@ -33,6 +33,8 @@ BaseValue::BaseValue(QWidget *parent)
 }
 
 BaseValue::~BaseValue() = default;
+
+void BaseValue::follow(const GetData *) {}
 
 void BaseValue::mousePressEvent(QMouseEvent *event)
 {

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <memory>
 
+class GetData;
 class OptionFrame;
 namespace Ui {
 class BaseValue;
@@ -21,6 +22,9 @@ class BaseValue : public QWidget
 public:
     explicit BaseValue(QWidget *parent = nullptr);
     ~BaseValue() override;
+
+    /// Shows what @p scheduler reports of the page's quantity; a page without one shows nothing.
+    virtual void follow(const GetData *scheduler);
 
 signals:
     /// A swipe to the left: the next page is wanted.

@@ -1,5 +1,6 @@
 #include "mainscreen/HumidityPage.h"
 
+#include "acquisition/GetData.h"
 #include "shell/Global_cfg.h"
 
 #include <QDebug>
@@ -14,6 +15,11 @@ HumidityPage::HumidityPage(QWidget *parent)
     setObjectName(QStringLiteral("HumidityPage"));
     setUnitPicture(Quantity::Humidity);
     showRow(humidityRow(valueAtStart));
+}
+
+void HumidityPage::follow(const GetData *scheduler)
+{
+    connect(scheduler, &GetData::signal_updateHumData, this, &HumidityPage::update_currentData);
 }
 
 void HumidityPage::update_currentData(int iValue)

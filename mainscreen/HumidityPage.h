@@ -10,11 +10,9 @@ class HumidityPage : public BaseValue
 public:
     explicit HumidityPage(QWidget *parent = nullptr);
 
+    void follow(const GetData *scheduler) override;
+
 protected slots:
     /// Shows @p iValue; invalidReading gives dashes and takes the unit away for good.
     void update_currentData(int iValue);
-
-private:
-    /// Connects the readings.
-    friend class MainView;
 };

@@ -7,6 +7,7 @@
 #include "mainscreen/StripGeometry.h"
 #include "mainscreen/TemperaturePage.h"
 #include "pages/Look.h"
+#include "pages/Quantity.h"
 
 #include <QGraphicsPixmapItem>
 #include <QGraphicsProxyWidget>
@@ -23,11 +24,11 @@ constexpr qreal backgroundLevel = 0;
 constexpr qreal pageLevel = 2;
 constexpr qreal overlayLevel = 3;
 constexpr int firstFrame = -1000;
-constexpr int firstPage = 2;
-constexpr std::chrono::milliseconds slideTime = 500ms;
-constexpr std::chrono::milliseconds tick = 16ms;
-/// In KB. The images of four proxies of the screen's size and every picture of the program share
-/// this cache; an image that falls out of it is drawn anew in every frame.
+constexpr int firstPage = int(Quantity::Temperature);
+constexpr auto slideTime = 500ms;
+constexpr auto tick = 16ms;
+// In KB. The images of four proxies of the screen's size and every picture of the program share
+// this cache; an image that falls out of it is drawn anew in every frame.
 constexpr int pictureMemory = 32 * 1024;
 } // namespace
 
@@ -64,12 +65,10 @@ void MainView::scene_init()
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     QPixmapCache::setCacheLimit(std::max(QPixmapCache::cacheLimit(), pictureMemory));
 
-    pmPage = new PmPage;
-    temperaturePage = new TemperaturePage;
-    humidityPage = new HumidityPage;
-    baseScene = new BaseScene;
-    for (QWidget *page : std::initializer_list<QWidget *>{pmPage, temperaturePage, humidityPage})
+    readingPages = {new PmPage, new TemperaturePage, new HumidityPage};
+    for (BaseValue *page : std::as_const(readingPages))
         pages.append(addCached(page, pageLevel));
+    baseScene = new BaseScene;
     addCached(baseScene, overlayLevel);
     background = graphicsScene.addPixmap(
         QPixmap(QStringLiteral(":/resource/images/mainPage/backgroud/backgroudMain.png")));
@@ -92,20 +91,13 @@ QGraphicsProxyWidget *MainView::addCached(QWidget *widget, qreal z)
 
 void MainView::connect_init()
 {
-    for (BaseValue *page :
-         std::initializer_list<BaseValue *>{pmPage, temperaturePage, humidityPage}) {
+    for (BaseValue *page : std::as_const(readingPages)) {
         connect(page, &BaseValue::signal_slideRight, this, &MainView::slide_right);
         connect(page, &BaseValue::signal_slideLeft, this, &MainView::slide_left);
+        page->follow(scheduler);
     }
     connect(baseScene, &BaseScene::signal_jumpPage, this, &MainView::choose_page);
-    connect(scheduler, &GetData::signal_updatePMData, pmPage, &PmPage::update_currentData);
-    connect(scheduler, &GetData::signal_updateTempData, temperaturePage,
-            &TemperaturePage::update_currentData);
-    connect(scheduler, &GetData::signal_updateHumData, humidityPage,
-            &HumidityPage::update_currentData);
-    connect(scheduler, &GetData::signal_updatePMData, baseScene, &BaseScene::update_pmData);
-    connect(scheduler, &GetData::signal_updateTempData, baseScene, &BaseScene::update_tempData);
-    connect(scheduler, &GetData::signal_updateHumData, baseScene, &BaseScene::update_humData);
+    baseScene->follow(scheduler);
 }
 
 void MainView::animation_init()
@@ -120,7 +112,7 @@ void MainView::animation_init()
 
 void MainView::slide(int pageCount)
 {
-    timeLine->setFrameRange(strip::frameAt(position), strip::frameAt(position + float(pageCount)));
+    timeLine->setFrameRange(Strip::frameAt(position), Strip::frameAt(position + float(pageCount)));
     timeLine->start();
 }
 
@@ -132,9 +124,14 @@ void MainView::slide_show(SlideDirection direction)
         slide_left();
 }
 
+bool MainView::isSliding() const
+{
+    return timeLine->state() != QTimeLine::NotRunning;
+}
+
 void MainView::slide_right()
 {
-    if (timeLine->state() != QTimeLine::NotRunning || !strip::hasNext(position))
+    if (isSliding() || !Strip::hasNext(position))
         return;
     slide(-1);
     ++currentPage;
@@ -143,7 +140,7 @@ void MainView::slide_right()
 
 void MainView::slide_left()
 {
-    if (timeLine->state() != QTimeLine::NotRunning || !strip::hasPrevious(position))
+    if (isSliding() || !Strip::hasPrevious(position))
         return;
     slide(1);
     --currentPage;
@@ -152,23 +149,23 @@ void MainView::slide_left()
 
 void MainView::choose_page(int page)
 {
-    if (timeLine->state() != QTimeLine::NotRunning)
+    if (isSliding())
         return;
-    if (const std::optional<int> pageCount = strip::slideToChosen(position, page))
+    if (const std::optional<int> pageCount = Strip::slideToChosen(position, page))
         slide(*pageCount);
 }
 
 void MainView::change_page(int frame)
 {
-    position = float(frame) / strip::framesPerPage;
+    position = float(frame) / Strip::framesPerPage;
     for (qsizetype i = 0; i < pages.size(); ++i) {
         const QPointF grid = gridPoints.at(i);
-        const int x = strip::pageX(int(grid.x()), position, width());
+        const int x = Strip::pageX(int(grid.x()), position, width());
         pages.at(i)->setPos(x, height() * grid.y());
         // A page beside the view still touches its edge and would be drawn, out of sight.
         pages.at(i)->setOpacity(std::abs(x) < width() ? 1 : 0);
     }
-    background->setPos(strip::backgroundX(position, width(), background->pixmap().width()), 0);
+    background->setPos(Strip::backgroundX(position, width(), background->pixmap().width()), 0);
 }
 
 void MainView::drawBackground(QPainter *painter, const QRectF &rect)

@@ -6,16 +6,14 @@
 #include <QPointF>
 
 class BaseScene;
+class BaseValue;
 class GetData;
-class HumidityPage;
-class PmPage;
 class QGraphicsPixmapItem;
 class QGraphicsProxyWidget;
 class QTimeLine;
-class TemperaturePage;
 
-/// The main screen: three reading pages on a strip that slides over a wide background, and the
-/// overlay above them. Owns the scheduler that feeds them. GUI thread.
+/// Shows the main screen: three reading pages on a strip that slides over a wide background, and
+/// the overlay above them. Owns the scheduler that feeds them. GUI thread.
 class MainView : public QGraphicsView
 {
     Q_OBJECT
@@ -26,23 +24,25 @@ public:
     explicit MainView(QWidget *parent = nullptr);
     ~MainView() override;
 
-    /// The overlay, whose signal_jumpToOption() asks for the settings.
+    /// Gives out the overlay, whose signal_jumpToOption() asks for the settings.
     BaseScene *overlay() const;
 
     /// Starts a slide by @p pages; negative is towards higher page numbers.
     void slide(int pages);
+    /// Slides to the next page (Right) or to the previous one.
     void slide_show(SlideDirection direction);
-
-protected slots:
-    /// The next / previous page. Ignored while a slide runs and at the ends.
-    void slide_right();
-    void slide_left();
-    /// A tile was tapped. Ignored while a slide runs; see strip::slideToChosen().
-    void choose_page(int page);
 
 protected:
     /// Paints the brush only where the background picture does not lie.
     void drawBackground(QPainter *painter, const QRectF &rect) override;
+
+protected slots:
+    /// Slides to the next / previous page. Ignored while a slide runs and at the ends.
+    void slide_right();
+    void slide_left();
+    /// Slides as the tile numbered @p page wants it. Ignored while a slide runs; see
+    /// Strip::slideToChosen().
+    void choose_page(int page);
 
 private slots:
     void change_page(int frame);
@@ -52,13 +52,12 @@ private:
     void connect_init();
     void animation_init();
     QGraphicsProxyWidget *addCached(QWidget *widget, qreal z);
+    bool isSliding() const;
 
     QGraphicsScene graphicsScene;
     QTimeLine *timeLine = nullptr;
     float position = 0;
-    PmPage *pmPage = nullptr;
-    TemperaturePage *temperaturePage = nullptr;
-    HumidityPage *humidityPage = nullptr;
+    QList<BaseValue *> readingPages;
     BaseScene *baseScene = nullptr;
     QList<QGraphicsProxyWidget *> pages;
     QList<QPointF> gridPoints;

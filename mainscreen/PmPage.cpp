@@ -17,7 +17,7 @@ PmPage::PmPage(QWidget *parent)
     : BaseValue(parent)
     , animation(new PmAnimation(this))
     , scanSurface(new OptionFrame(this))
-    , scheduler(std::make_unique<GetData>())
+    , ownScheduler(std::make_unique<GetData>())
 {
     setObjectName(QStringLiteral("PmPage"));
     hideUnit();
@@ -31,12 +31,17 @@ PmPage::PmPage(QWidget *parent)
     scanSurface->setGeometry(animation->geometry());
     scanSurface->hide();
 
-    connect(scheduler.get(), &GetData::signal_updatePMData, this, &PmPage::update_pmData);
+    connect(ownScheduler.get(), &GetData::signal_updatePMData, this, &PmPage::update_pmData);
     connect(number(), &OptionFrame::clicked, this, &PmPage::ShowAnimation);
     connect(scanSurface, &OptionFrame::clicked, this, &PmPage::ShowAnimation);
 }
 
 PmPage::~PmPage() = default;
+
+void PmPage::follow(const GetData *scheduler)
+{
+    connect(scheduler, &GetData::signal_updatePMData, this, &PmPage::update_currentData);
+}
 
 void PmPage::update_pmData(int iValue)
 {
@@ -61,7 +66,7 @@ void PmPage::ShowAnimation()
 {
     if (!busy)
         setScanning(true);
-    scheduler->start_PM25_samping();
+    ownScheduler->start_PM25_samping();
 }
 
 void PmPage::setScanning(bool scanning)

@@ -2,7 +2,6 @@
 
 #include "mainscreen/BaseValue.h"
 
-class GetData;
 class PmAnimation;
 
 /// The page of the PM2.5 value, in ug/m3 as the sensor reports it. A tap on the number asks the
@@ -15,6 +14,8 @@ public:
     explicit PmPage(QWidget *parent = nullptr);
     ~PmPage() override;
 
+    void follow(const GetData *scheduler) override;
+
 public slots:
     /// The measurement has arrived: ends the animation and shows @p iValue.
     void update_pmData(int iValue);
@@ -26,14 +27,11 @@ protected slots:
     void ShowAnimation();
 
 private:
-    /// Connects the readings.
-    friend class MainView;
-
     void setScanning(bool scanning);
 
     bool busy = false;
     PmAnimation *animation;
     // Takes the tap while the number it stands for is hidden.
     OptionFrame *scanSurface;
-    std::unique_ptr<GetData> scheduler;
+    std::unique_ptr<GetData> ownScheduler;
 };

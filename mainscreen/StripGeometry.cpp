@@ -2,7 +2,7 @@
 
 #include "pages/Quantity.h"
 
-namespace strip {
+namespace Strip {
 
 int frameAt(float position)
 {
@@ -38,4 +38,4 @@ std::optional<int> slideToChosen(float position, int page)
     return int(float(-page) - position);
 }
 
-} // namespace strip
+} // namespace Strip

@@ -7,7 +7,7 @@
 /// The strip of pages has a position in units of one page: 0 shows PM2.5, -1 temperature, -2
 /// humidity. Slides run in frames, thousandths of a page. All results are pixels unless said
 /// otherwise.
-namespace strip {
+namespace Strip {
 
 inline constexpr float framesPerPage = 1000.0F;
 
@@ -30,4 +30,4 @@ bool hasPrevious(float position);
 /// from the first two pages even beyond the last.
 std::optional<int> slideToChosen(float position, int page);
 
-} // namespace strip
+} // namespace Strip

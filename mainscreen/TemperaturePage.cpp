@@ -1,5 +1,6 @@
 #include "mainscreen/TemperaturePage.h"
 
+#include "acquisition/GetData.h"
 #include "shell/Global_cfg.h"
 
 #include <QDebug>
@@ -12,6 +13,11 @@ TemperaturePage::TemperaturePage(QWidget *parent)
     DigitRow noReadingYet = temperatureRow(invalidReading);
     noReadingYet.hidesUnit = false;
     showRow(noReadingYet);
+}
+
+void TemperaturePage::follow(const GetData *scheduler)
+{
+    connect(scheduler, &GetData::signal_updateTempData, this, &TemperaturePage::update_currentData);
 }
 
 void TemperaturePage::update_currentData(int iValue)
