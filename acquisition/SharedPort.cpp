@@ -66,7 +66,7 @@ void SharedPort::close()
     device.close();
 }
 
-/// An unplugged port reports its error again and again, at full load, until it is closed.
+// An unplugged port reports its error again and again, at full load, until it is closed.
 void SharedPort::closeLost(QSerialPort::SerialPortError error)
 {
     const bool isLost = error == QSerialPort::ResourceError || error == QSerialPort::ReadError ||

@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 
 constexpr auto timeToDie = 100ms;
 
-/// Starts a shell that leads a process group of its own. 0 where that fails.
+// Starts a shell that leads a process group of its own. 0 where that fails.
 pid_t startShell(const QString &command)
 {
     posix_spawnattr_t attributes;
@@ -35,7 +35,7 @@ pid_t startShell(const QString &command)
     return error == 0 ? shell : 0;
 }
 
-/// Whether @p process ends within @p limit. A kernel that cannot tell lets it take its time.
+// Whether process ends within limit. A kernel that cannot tell lets it take its time.
 bool endsWithin(std::chrono::milliseconds limit, pid_t process)
 {
     pollfd end{int(syscall(SYS_pidfd_open, process, 0)), POLLIN, 0};

@@ -1,4 +1,5 @@
 #include "device/Command.h"
+#include "device/DevicePath.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/TableRows.h"
@@ -11,7 +12,7 @@
 
 using namespace std::chrono_literals;
 
-class TestCommand : public QObject
+class TestDevice : public QObject
 {
     Q_OBJECT
 
@@ -61,7 +62,25 @@ private slots:
                  CommandEnd::HitLimit);
         QTRY_COMPARE(Environment::contentOf("note"), "done\n");
     }
+
+    void rootIsPutInFront()
+    {
+        for (const QByteArray root : {"/tmp/a b", ""}) {
+            qputenv("ZELL_DEVICE_ROOT", root);
+            QCOMPARE(devicePath("/dev/Boost_En"), root + "/dev/Boost_En");
+            QCOMPARE(deviceSerialPort("tty"), root.isEmpty() ? "tty" : root + "/dev/tty");
+        }
+    }
+
+    void shellSeesOneWord()
+    {
+        const QString word = " a  b'c\"$(id);`id`|id&\\\n";
+        const QString words = shellQuoted(word) + ' ' + shellQuoted("");
+        runCommand("printf '[%s]' " + words + " > words", 1s);
+        QCOMPARE(Environment::contentOf("words"), '[' + word + "][]");
+        QCOMPARE(shellQuoted("/a-b_c.9/Z"), "/a-b_c.9/Z");
+    }
 };
 
-ZELL_TEST_MAIN(TestCommand)
-#include "test_command.moc"
+ZELL_TEST_MAIN(TestDevice)
+#include "test_device.moc"
