@@ -10,6 +10,7 @@ void sensorLink()
     link.power_on();
     link.DataHandle(isOpen);
     link.power_off();
+    link.rxDataReady_slot();
     link.closeUart();
     QByteArray frame;
     const int value = PM2_5_dataHandle(&frame);

@@ -3,6 +3,8 @@
 #include "shell/MainWindow.h"
 #include "store/ZellDatabase.h"
 
+#include <QTimer>
+
 void shell()
 {
     Q_INIT_RESOURCE(ZellQt);
@@ -12,6 +14,7 @@ void shell()
     g_sLanguage = QString::number(constants[0]);
     zelldatabase = new ZellDatabase;
     getData = new GetData;
+    randUARTSignal = new QTimer(getData);
 
     MainWindow window(nullptr);
     QMainWindow *base = &window;
