@@ -21,13 +21,11 @@
 #include "settings/nightModePage.h"
 #include "settings/setLanguagePage.h"
 #include "settings/timePage.h"
+#include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/TableRows.h"
 
-#include <QItemSelection>
-#include <QListWidgetItem>
-#include <QNetworkReply>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <functional>
@@ -46,28 +44,16 @@ PageClass visited()
             [](PageHolder *holder) -> Page * { return holder->open<Opened>(); }};
 }
 
-QList<QMetaMethod> methodsOf(const QObject *object, QMetaMethod::MethodType type)
+/// One for every signal that a plain widget has not.
+auto spiesOn(const Page *page)
 {
-    QList<QMetaMethod> methods;
-    const QMetaObject *meta = object->metaObject();
+    std::vector<std::unique_ptr<QSignalSpy>> spies;
+    const QMetaObject *meta = page->metaObject();
     for (int i = QWidget::staticMetaObject.methodCount(); i < meta->methodCount(); ++i) {
-        if (meta->method(i).methodType() == type)
-            methods.append(meta->method(i));
+        if (meta->method(i).methodType() == QMetaMethod::Signal)
+            spies.push_back(std::make_unique<QSignalSpy>(page, meta->method(i)));
     }
-    return methods;
-}
-
-/// Calls @p slot with arguments that are zero, null or empty.
-void callWithNothing(QObject *object, const QMetaMethod &slot)
-{
-    QList<QVariant> values;
-    QList<QGenericArgument> arguments(2);
-    for (int i = 0; i < slot.parameterCount(); ++i)
-        values.append(QVariant(QMetaType::fromName(slot.parameterTypeName(i))));
-    for (int i = 0; i < values.size(); ++i)
-        arguments[i] = QGenericArgument(values[i].typeName(), values[i].constData());
-    QVERIFY2(slot.invoke(object, Qt::DirectConnection, arguments[0], arguments[1]),
-             slot.methodSignature());
+    return spies;
 }
 
 QList<QWidget *> widgetsIn(const Page *page)
@@ -83,13 +69,6 @@ class TestPageLife : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        qRegisterMetaType<QItemSelection>();
-        qRegisterMetaType<QListWidgetItem *>();
-        qRegisterMetaType<QNetworkReply *>();
-    }
-
     void init()
     {
         stack = std::make_unique<QStackedWidget>();
@@ -118,10 +97,7 @@ private slots:
     {
         QFETCH(PageClass, row);
         const QPointer<Page> former = row.open(holder);
-        for (const QMetaMethod &slot : methodsOf(former, QMetaMethod::Slot)) {
-            if (slot.name().startsWith("jump_"))
-                callWithNothing(former, slot);
-        }
+        callSlots(former, "jump_");
         QList<QPointer<Page>> gone{former};
         for (Page *behind : former->findChildren<Page *>())
             gone.append(behind);
@@ -131,12 +107,9 @@ private slots:
             QVERIFY(page);
             QVERIFY(page->isEmptied());
             QTRY_VERIFY(widgetsIn(page).isEmpty());
-            std::vector<std::unique_ptr<QSignalSpy>> spies;
-            for (const QMetaMethod &signal : methodsOf(page, QMetaMethod::Signal))
-                spies.push_back(std::make_unique<QSignalSpy>(page, signal));
+            const auto spies = spiesOn(page);
             const MessageLog log;
-            for (const QMetaMethod &slot : methodsOf(page, QMetaMethod::Slot))
-                callWithNothing(page, slot);
+            callSlots(page);
             page->grab();
             page->empty();
             QCOMPARE(log.lines(), QStringList());

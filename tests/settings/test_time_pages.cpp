@@ -1,14 +1,13 @@
 #include "settings/DateTimePage.h"
 #include "settings/OptionPage.h"
 #include "settings/QmlApplicationViewer.h"
-#include "settings/SetTimePage.h"
 #include "settings/timePage.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
 #include <QDateTime>
-#include <QPointer>
 #include <QQmlEngine>
 #include <memory>
 
@@ -16,15 +15,25 @@ class TestTimePages : public QObject
 {
     Q_OBJECT
 
-public:
-    bool eventFilter(QObject *, QEvent *event) override
+    struct Clock
     {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
+        const char *name;
+        bool is24Hour;
+        const char *format;
+        int hourX;
+    };
+    struct Time
+    {
+        const char *name;
+        const char *button;
+    };
 
 private slots:
-    void init() { menu = std::make_unique<OptionPage>(); }
+    void init()
+    {
+        menu = std::make_unique<OptionPage>();
+        menu->show();
+    }
     void cleanup()
     {
         menu.reset();
@@ -39,109 +48,80 @@ private slots:
         QTRY_VERIFY(qApp->findChild<QQmlEngine *>());
     }
 
+    void clockSwitchChoosesTextAndWheels_data()
+    {
+        addRows<Clock>({{"24 hours", true, "yyyy-MM-dd HH:mm", 452},
+                        {"12 hours", false, "yyyy-MM-dd hh:mm AP", 362}});
+    }
+
     void clockSwitchChoosesTextAndWheels()
     {
+        QFETCH(Clock, row);
         const MessageLog log;
         open("option_setTime");
-        for (const bool use24Hour : {true, false}) {
-            const QString format = use24Hour ? "yyyy-MM-dd HH:mm" : "yyyy-MM-dd hh:mm AP";
-            QTRY_VERIFY(clockShows(format));
-            QCOMPARE(shown("button_on")->property("checked").toBool(), use24Hour);
+        if (!row.is24Hour)
+            open("checkBox_24Hours");
+        QCOMPARE(shown("button_on")->property("checked").toBool(), row.is24Hour);
+        for (int visit = 1; visit <= 2; ++visit) {
+            QTRY_VERIFY(clockShows(row.format));
             open("button_dateTime");
-            QCOMPARE(shown("widget_hour")->x(), use24Hour ? 452 : 362);
-            QCOMPARE(shown("widget_amp") == nullptr, use24Hour);
-            const QTime start(row("widget_hour") + (use24Hour ? 0 : row("widget_amp") * 12),
-                              row("widget_min"));
-            const int late = start.secsTo(QTime::currentTime());
-            QVERIFY(late >= 0 && late < 65);
-            QCOMPARE(row("widget_date"), 0);
+            QCOMPARE(shown("widget_hour")->x(), row.hourX);
+            QCOMPARE(!shown("widget_amp"), row.is24Hour);
+            const int half = row.is24Hour ? 0 : turned("widget_amp") * 12;
+            const QTime start(turned("widget_hour") + half, turned("widget_min"));
+            QCOMPARE_GE(start.secsTo(QTime::currentTime()), 0);
+            QCOMPARE_LT(start.secsTo(QTime::currentTime()), 65);
+            QCOMPARE(turned("widget_date"), 0);
             QTest::keyClick(shown("widget_date"), Qt::Key_Up);
-            QCOMPARE(row("widget_date"), 364);
+            QCOMPARE(turned("widget_date"), 364);
             tap(shown("button_back"));
-            QTRY_VERIFY(clockShows(format));
-            tap(shown("checkBox_24Hours"));
         }
         QCOMPARE(log.lines(), QStringList());
     }
 
-    void dateTimePageMovesToItsOpenerAndRests()
+    void bothTimesOpenAFreshPage_data()
     {
-        QPointer<DateTimePage> page;
-        qApp->installEventFilter(this);
-        for (int visit = 1; visit <= 3; ++visit) {
-            open("option_setTime");
-            QTRY_VERIFY(isAtRest());
-            open("button_dateTime");
-            if (visit == 1)
-                page = DateTimePage::instance;
-            QVERIFY(page && page == DateTimePage::instance);
-            const auto openers = menu->findChildren<SetTimePage *>();
-            QCOMPARE(openers.size(), visit);
-            QVERIFY(page->isVisible() && openers.last()->isAncestorOf(page));
-            QVERIFY(shown("widget_date") && shown("widget_hour") && shown("widget_min"));
-            QTRY_VERIFY(isAtRest());
-            tap(shown("button_back"));
-            QVERIFY(!page->isVisible());
-            tap(shown("button_back"));
-            QVERIFY(menu->is_allowed_slide());
-        }
-        qApp->removeEventFilter(this);
-    }
-
-    void nightRowsFollowTheSwitch()
-    {
-        open("option_frame_nightPattern");
-        for (const bool on : {true, false, true}) {
-            QCOMPARE(shown("frame_startTime") != nullptr, on);
-            QCOMPARE(shown("frame_finishTime") != nullptr, on);
-            QCOMPARE(shown("button_close")->property("checked").toBool(), !on);
-            tap(shown("checkBox_nightMode"));
-        }
-        tap(shown("button_setNightMode"));
-        QVERIFY(!shown("frame_startTime"));
+        addRows<Time>({{"start", "button_startTime"}, {"finish", "button_finishTime"}});
     }
 
     void bothTimesOpenAFreshPage()
     {
+        QFETCH(Time, row);
         const QString tab = "border-image: url(:/resource/images/optionPage/nightPattern/%1.png);\n"
                             "font: 24px;\ncolor:%2;";
-        const QString looks[] = {tab.arg("unbutton", "#FFFFFF"), tab.arg("button", "#212121")};
+        const QString chosen = tab.arg("button", "#212121");
+        const QString other = tab.arg("unbutton", "#FFFFFF");
         open("option_frame_nightPattern");
-        for (const int visit : {1, 2}) {
-            open(visit == 1 ? "button_startTime" : "button_finishTime");
+        for (int visit = 1; visit <= 2; ++visit) {
+            open(row.button);
             QCOMPARE(menu->findChildren<timePage *>().size(), visit);
-            QVERIFY(row("widget_hour") == 22 && row("widget_min") == 30 && !shown("widget_amp"));
+            QCOMPARE(QTime(turned("widget_hour"), turned("widget_min")), QTime(22, 30));
+            QVERIFY(!shown("widget_amp"));
             QTest::keyClick(shown("widget_hour"), Qt::Key_Down);
-            QCOMPARE(row("widget_hour"), 23);
-            for (const bool finish : {false, true, false}) {
-                QCOMPARE(shown("pushButton_start")->styleSheet(), looks[finish ? 0 : 1]);
-                QCOMPARE(shown("pushButton_finish")->styleSheet(), looks[finish ? 1 : 0]);
-                tap(shown(finish ? "pushButton_start" : "pushButton_finish"));
-            }
+            QCOMPARE(turned("widget_hour"), 23);
+            QCOMPARE(looks(), (QStringList{chosen, other}));
+            tap(shown("pushButton_finish"));
+            QCOMPARE(looks(), (QStringList{other, chosen}));
+            tap(shown("pushButton_start"));
+            QCOMPARE(looks(), (QStringList{chosen, other}));
             tap(shown("button_back"));
-            QVERIFY(shown("frame_startTime") && !shown("widget_hour"));
+            QVERIFY(shown("frame_startTime"));
+            QVERIFY(!shown("widget_hour"));
         }
     }
 
 private:
-    void open(const QString &button)
-    {
-        menu->show();
-        tap(shown(button));
-    }
+    void open(const char *button) { tap(shown(button)); }
+    QWidget *shown(const char *name) const { return visibleChild(menu.get(), name); }
 
-    /// The visible widget @p name of the newest page, or null.
-    QWidget *shown(const QString &name) const
-    {
-        QWidget *found = nullptr;
-        for (QWidget *widget : menu->findChildren<QWidget *>(name))
-            found = widget->isVisible() ? widget : found;
-        return found;
-    }
-
-    int row(const QString &wheel) const
+    int turned(const char *wheel) const
     {
         return qobject_cast<QmlApplicationViewer *>(shown(wheel))->currentIndex();
+    }
+
+    QStringList looks() const
+    {
+        return {shown("pushButton_start")->styleSheet(), shown("pushButton_finish")->styleSheet()};
     }
 
     /// Whether the page shows the present minute, or the one that has just passed.
@@ -152,15 +132,6 @@ private:
         return text == now.toString(format) || text == now.addSecs(-5).toString(format);
     }
 
-    /// Whether a turn of the event loop paints nothing.
-    bool isAtRest()
-    {
-        paints = 0;
-        QCoreApplication::processEvents();
-        return paints == 0;
-    }
-
-    int paints = 0;
     std::unique_ptr<OptionPage> menu;
 };
 
