@@ -56,3 +56,12 @@ QWidget *visibleChild(QWidget *root, const QString &objectName)
     }
     return nullptr;
 }
+
+QAbstractButton *visibleButton(QWidget *root, const QString &text)
+{
+    for (auto *button : root->findChildren<QAbstractButton *>()) {
+        if (button->isVisible() && button->text() == text)
+            return button;
+    }
+    return nullptr;
+}

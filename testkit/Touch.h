@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QPoint>
 #include <QString>
 #include <QWidget>
@@ -23,3 +24,6 @@ void releaseAt(QWidget *window, const QPoint &position);
 
 /// The one descendant of @p root named @p objectName that is visible, or null.
 QWidget *visibleChild(QWidget *root, const QString &objectName);
+
+/// The one button below @p root that is visible and says @p text, or null.
+QAbstractButton *visibleButton(QWidget *root, const QString &text);

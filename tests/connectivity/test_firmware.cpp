@@ -53,11 +53,10 @@ class TestFirmware : public QObject
 private slots:
     void init()
     {
-        page = new updateFirmware;
+        page = std::make_unique<updateFirmware>();
         page->setLimits({300ms, 60s, qint64(96) * 1024 * 1024});
         page->show();
     }
-    void cleanup() { delete page; }
 
     void addressAndPercent()
     {
@@ -96,7 +95,7 @@ private slots:
     {
         QFETCH(Server, row);
         FirmwareServer server({row.answer});
-        QSignalSpy left(page, &updateFirmware::signal_backDefaultPage);
+        QSignalSpy left(page.get(), &updateFirmware::signal_backDefaultPage);
         if (row.answer.chunkSize == 1)
             page->setLimits({300ms, 2s, 1 << 20});
         const qint64 before = residentBytes();
@@ -118,7 +117,9 @@ private slots:
         startDownload("http://127.0.0.1:1/refused.pkg");
         QVERIFY(waitFor("page_retryFirmware"));
         tap(shown("button_retry"));
-        QVERIFY(shown("page_firmware") && shown("button_back") && !shown("button_update"));
+        QVERIFY(shown("page_firmware"));
+        QVERIFY(shown("button_back"));
+        QVERIFY(!shown("button_update"));
     }
 
     void progressIsShownAndLogged()
@@ -175,8 +176,8 @@ private slots:
         page->download_newVersion();
         const qint64 before = server.bytesSent();
         QTRY_VERIFY(server.bytesSent() > before + 1e6);
-        cleanup();
-        init();
+        page.reset();
+        QTRY_COMPARE(server.clients(), 0);
     }
 
 private:
@@ -187,7 +188,7 @@ private:
         bool installs = false;
     };
 
-    QWidget *shown(const char *name) { return visibleChild(page, name); }
+    QWidget *shown(const char *name) { return visibleChild(page.get(), name); }
     void startDownload(FirmwareServer &server)
     {
         QVERIFY(server.listen());
@@ -208,7 +209,7 @@ private:
         return shown(end) != nullptr;
     }
 
-    updateFirmware *page = nullptr;
+    std::unique_ptr<updateFirmware> page;
 };
 
 ZELL_TEST_MAIN(TestFirmware)
