@@ -65,15 +65,6 @@ void collect(QWidget *root, QList<Placed> &found)
     }
 }
 
-bool reacts(const QWidget *widget)
-{
-    if (qobject_cast<const QScrollBar *>(widget))
-        return false;
-    return widget->isEnabled() &&
-           (qobject_cast<const QAbstractButton *>(widget) ||
-            qobject_cast<const QAbstractSlider *>(widget) || widget->inherits("OptionFrame"));
-}
-
 QString nameOf(const QWidget *widget)
 {
     return QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char(' ') +
@@ -118,6 +109,15 @@ QString cutText(const Placed &placed)
         .arg(placed.whole.height());
 }
 } // namespace
+
+bool reacts(const QWidget *widget)
+{
+    if (qobject_cast<const QScrollBar *>(widget))
+        return false;
+    return widget->isEnabled() &&
+           (qobject_cast<const QAbstractButton *>(widget) ||
+            qobject_cast<const QAbstractSlider *>(widget) || widget->inherits("OptionFrame"));
+}
 
 QStringList layoutFindings(QWidget *window)
 {

@@ -1,0 +1,121 @@
+#include "pages/Page.h"
+#include "simulator/FirmwareServer.h"
+#include "store/ZellDatabase.h"
+#include "testkit/CallSlot.h"
+#include "testkit/Environment.h"
+#include "testkit/Touch.h"
+#include "walk/Walk.h"
+
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTimer>
+
+/// A child with the device in its hands: taps, drags, holds and double taps anywhere, then every
+/// slot of every page left behind. Nothing crashes or warns, and the window still reacts.
+///
+/// ZELL_TOUCHES is the number of touches, ZELL_TOUCH_SEED the start of their random numbers:
+/// `ZELL_TOUCHES=25000 ./dev test test_random_touches` runs for half an hour.
+class TestRandomTouches : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        zelldatabase = &database;
+        Environment::writeDeviceScript("/bin/restartZellQt.sh", "true");
+        QVERIFY(server.listen());
+        qputenv("ZELL_FIRMWARE_URL", server.url().toLatin1());
+        walk = std::make_unique<Walk>();
+        toMenu();
+        // Whoever waits for a page to react touches it again meanwhile.
+        impatience.setInterval(100);
+        impatience.setSingleShot(true);
+        connect(&impatience, &QTimer::timeout, this, &TestRandomTouches::touch);
+    }
+
+    void windowBearsAnyTouch()
+    {
+        QTest::failOnWarning(QRegularExpression("."));
+        while (touches < qEnvironmentVariable("ZELL_TOUCHES", "300").toInt()) {
+            touch();
+            QTest::qWait(1 << random.bounded(7));
+            walk->screen()->show(); // the restart script does nothing
+        }
+        impatience.stop();
+
+        QSet<QString> classes;
+        const auto left = walk->screen()->findChildren<Page *>();
+        for (Page *page : left) {
+            classes.insert(page->metaObject()->className());
+            callSlots(page);
+        }
+        qInfo("%d touches, %d pages of %d classes", touches, int(left.size()), int(classes.size()));
+        QVERIFY(!left.isEmpty());
+
+        walk->screen()->show();
+        walk->tapAt({1, 1}); // wakes a dark screen
+        toMenu();
+        walk->settle();
+        walk->openTile("option_setTime");
+        QVERIFY(walk->sees("button_dateTime"));
+    }
+
+private:
+    // Also the way out of pages that have none.
+    void toMenu()
+    {
+        callSlot(walk->screen(), "jump_toOption");
+        callSlot(walk->screen()->findChild<QWidget *>("OptionPage"), "back_default_page");
+    }
+
+    void touch()
+    {
+        impatience.start();
+        if (std::exchange(isDown, true))
+            return;
+        ++touches;
+        const int kind = random.bounded(100);
+        const QPoint from = place();
+        if (kind == 0) {
+            // The way to pages that no finger reaches yet.
+            for (Page *page : walk->screen()->findChildren<Page *>()) {
+                if (page->isVisible())
+                    callSlots(page, "jump_");
+            }
+        } else if (kind == 1) {
+            toMenu();
+        } else if (kind < 5) {
+            walk->doubleTapAt(from);
+        } else if (kind < 20) {
+            drag(walk->screen(), from, place());
+        } else {
+            walk->pressAt(from);
+            if (kind == 20)
+                QTest::qWait(1100);
+            isDown = false;
+            walk->release();
+        }
+        isDown = false;
+    }
+
+    // Every other one is meant for something.
+    QPoint place()
+    {
+        const QPoint anywhere(random.bounded(854), random.bounded(480));
+        return random.bounded(2) == 0 ? anywhere : walk->targetNear(anywhere);
+    }
+
+    ZellDatabase database;
+    simulator::FirmwareServer server{{{.head = "HTTP/1.1 200 OK\r\n\r\n", .bodySize = 2000},
+                                      simulator::statusAnswer("404 Not Found")}};
+    std::unique_ptr<Walk> walk;
+    QRandomGenerator random{quint32(qEnvironmentVariable("ZELL_TOUCH_SEED", "1").toUInt())};
+    QTimer impatience;
+    int touches = 0;
+    bool isDown = false;
+};
+
+ZELL_TEST_MAIN(TestRandomTouches)
+#include "test_random_touches.moc"
