@@ -168,6 +168,7 @@ private slots:
     void pageMayGoWhileItsDownloadRuns()
     {
         FirmwareServer server({withoutEnd()});
+        page->setLimits({60s, 60s, qint64(1) << 50});
         startDownload(server);
         QTRY_VERIFY(server.bytesSent() > 1e6);
         page->on_downloadProgress(0, -1);
