@@ -1,13 +1,40 @@
 #include "settings/QmlApplicationViewer.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
 #include <QDir>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QScopeGuard>
 #include <malloc.h>
 #include <memory>
+
+namespace {
+struct Wheel
+{
+    const char *name;
+    QString file;
+    int index;
+    QStringList texts;
+};
+
+struct Day
+{
+    const char *name;
+    QDate today;
+    int index;
+    QString text;
+};
+
+struct Zone
+{
+    const char *name;
+    QByteArray zone;
+    QDate eve;
+};
+} // namespace
 
 class TestSpinners : public QObject
 {
@@ -26,45 +53,84 @@ private slots:
 
     void rowsStandInTheirPlaces_data()
     {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<QString>("rows");
-        QTest::newRow("hour") << 0 << "21 22 23 >00 01 02 03";
-        QTest::newRow("hour12") << 10 << "07 08 09 >10 11 00 01";
-        QTest::newRow("minute") << 59 << "56 57 58 >59 00 01 02";
-        QTest::newRow("amp") << 0 << "下午 >上午";
-        QTest::newRow("amp") << 1 << "上午 >下午";
+        addRows<Wheel>(
+            {{"hours", "hour", 0, {"21", "22", "23", "00", "01", "02", "03"}},
+             {"hours of half a day", "hour12", 10, {"07", "08", "09", "10", "11", "00", "01"}},
+             {"minutes", "minute", 59, {"56", "57", "58", "59", "00", "01", "02"}},
+             {"morning", "amp", 0, {"下午", "上午"}},
+             {"afternoon", "amp", 1, {"上午", "下午"}}});
     }
 
     void rowsStandInTheirPlaces()
     {
-        QFETCH(int, index);
+        QFETCH(Wheel, row);
         const MessageLog log;
-        load(QTest::currentDataTag(), index);
-        QCOMPARE(host->currentIndex(), index);
-        QTEST(texts().join(' '), "rows");
-        QVERIFY(rows().size() == 2 || areRowsWithoutGap());
+        load(row.file, row.index);
+        QCOMPARE(host->currentIndex(), row.index);
+        if (row.file != "amp")
+            QVERIFY(areRowsWithoutGap());
         const char *const shades[] = {"#00e5ff", "#a9a9aa", "#646464", "#373739"};
         const int current = int(rows().size() / 2);
         QCOMPARE(middleOf(rows()[current]), current == 1 ? 107.5 : 182.5);
-        for (int row = 0; row < rows().size(); ++row)
-            QCOMPARE(rows()[row]->property("color").toString(), shades[std::abs(row - current)]);
+        QStringList texts;
+        for (const QQuickItem *item : rows()) {
+            const auto distance = std::abs(texts.size() - current);
+            texts << item->property("text").toString();
+            QCOMPARE(item->property("color").toString(), shades[distance]);
+            QCOMPARE(item->property("font").value<QFont>().pixelSize(), distance == 0 ? 36 : 24);
+        }
+        QCOMPARE(texts, row.texts);
         QCOMPARE(log.lines(), QStringList());
+    }
+
+    void dateWheelIsAYearAroundToday_data()
+    {
+        addRows<Day>({{"leap day", {2024, 2, 28}, 1, "02月29日 星期四"},
+                      {"last ahead", {2024, 2, 28}, 181, "08月27日 星期二"},
+                      {"first behind", {2024, 2, 28}, 182, "08月29日 星期二"},
+                      {"next year", {2023, 12, 31}, 1, "01月01日 星期一"},
+                      {"yesterday", {2016, 11, 21}, 364, "11月20日 星期天"}});
     }
 
     void dateWheelIsAYearAroundToday()
     {
-        const std::tuple<QDate, int, const char *> cases[] = {
-            {{2024, 2, 28}, 1, ">02月29日 星期四"},
-            {{2024, 2, 28}, 181, ">08月27日 星期二"},
-            {{2024, 2, 28}, 182, ">08月29日 星期二"},
-            {{2023, 12, 31}, 1, ">01月01日 星期一"},
-            {{2016, 11, 21}, 364, ">11月20日 星期天"}};
-        for (const auto &[today, index, text] : cases) {
-            load("date", index);
-            QCOMPARE(host->rootObject()->property("today").toDate(), QDate::currentDate());
-            host->rootObject()->setProperty("today", today.startOfDay());
-            QCOMPARE(texts()[3], text);
+        QFETCH(Day, row);
+        load("date", row.index);
+        QCOMPARE(host->rootObject()->property("today").toDate(), QDate::currentDate());
+        host->rootObject()->setProperty("today", row.today.startOfDay());
+        QCOMPARE(rows()[3]->property("text").toString(), row.text);
+    }
+
+    void everyDayHasItsNameWhereSummerBeginsAtMidnight_data()
+    {
+        addRows<Zone>({{"Lebanon", "Asia/Beirut", {2024, 3, 30}},
+                       {"Egypt", "Africa/Cairo", {2024, 4, 25}},
+                       {"Chile", "America/Santiago", {2024, 9, 7}}});
+    }
+
+    void everyDayHasItsNameWhereSummerBeginsAtMidnight()
+    {
+        QFETCH(Zone, row);
+        const QByteArray before = qgetenv("TZ");
+        const auto enter = [this](const QByteArray &zone) {
+            qputenv("TZ", zone);
+            tzset();
+            host->engine()->evaluate("Date.timeZoneUpdated()");
+        };
+        enter(row.zone);
+        const auto leave = qScopeGuard([&] { enter(before); });
+        load("date");
+        // In the last hour before the one that is left out.
+        host->rootObject()->setProperty("today", QDateTime(row.eve, QTime(23, 30)));
+        QSet<QString> names;
+        for (int index = 0; index < 365; ++index) {
+            QString name;
+            QMetaObject::invokeMethod(host->rootObject(), "dayText", Q_RETURN_ARG(QString, name),
+                                      Q_ARG(int, index));
+            names.insert(name);
         }
+        QCOMPARE(names.size(), 365);
+        QCOMPARE(host->rootObject()->property("untilMidnight").toInt(), 1000);
     }
 
     void fingerTurnsWithoutGapAndStopsOnARow()
@@ -105,10 +171,13 @@ private slots:
         const MessageLog log;
         const QString relative = QFileInfo(folder.path()).fileName();
         host->setMainQmlFile(relative + "/one.qml");
-        QVERIFY(host->rootObject() != nullptr && host->currentIndex() == -1);
+        QVERIFY(host->rootObject());
+        QCOMPARE(host->currentIndex(), -1);
         host->setMainQmlFile("no such.qml");
-        QVERIFY(host->rootObject() == nullptr && host->currentIndex() == -1);
-        QVERIFY(log.lines().size() == 1 && log.contains("no such.qml"));
+        QVERIFY(!host->rootObject());
+        QCOMPARE(host->currentIndex(), -1);
+        QCOMPARE(log.lines().size(), 1);
+        QVERIFY(log.contains("no such.qml"));
         QmlApplicationViewer(host, page.get()).addImportPath(relative);
         QCOMPARE(QmlApplicationViewer(nullptr, nullptr).engine()->importPathList().first(),
                  QDir(folder.path()).canonicalPath());
@@ -136,17 +205,6 @@ private:
         }
         std::sort(found.begin(), found.end(), [](auto *a, auto *b) { return a->y() < b->y(); });
         return found;
-    }
-
-    /// What is written in the rows, the large one marked.
-    QStringList texts() const
-    {
-        QStringList list;
-        for (const auto *row : rows()) {
-            const bool large = row->property("font").value<QFont>().pixelSize() == 36;
-            list << (large ? ">" : "") + row->property("text").toString();
-        }
-        return list;
     }
 
     /// The middle of @p row in px below the top of the host.
