@@ -52,7 +52,7 @@ void Blackboard::setValueMap(const QMap<int, float> &map, int newType)
         qDebug() << "Blackboard: left out" << removed << "readings that are no numbers";
     ranges = valueRangesOf(valueMap, LocalTime::startOfDay(clock()), rangeDivisions);
     ++series;
-    plotBottom = plotTop = -1;
+    valueScale = {};
     times.clear();
     screenXs.clear();
     update();
@@ -78,18 +78,17 @@ void Blackboard::isCurrentDay(int) {}
 float Blackboard::timeXToScreenX(float time, bool isLocal) const
 {
     const qint64 whole = std::isfinite(time) ? qint64(std::clamp(time, -1e15F, 1e15F)) : 0;
-    const ChartScale::Times scale{leftMargin, pxPerHour, pxPerSecond};
-    return scale.toX(isLocal ? whole - LocalTime::secondsAheadOfUtc : whole);
+    return timeScale.toX(isLocal ? whole - LocalTime::secondsAheadOfUtc : whole);
 }
 
 float Blackboard::valueYToScreenY(float value) const
 {
-    return offsetY + value * scaleY;
+    return valueScale.toY(value);
 }
 
 float Blackboard::screenYToValueY(float y) const
 {
-    return ChartScale::Values{plotBottom, plotTop, scaleY, offsetY}.toValue(y);
+    return valueScale.toValue(y);
 }
 
 int Blackboard::searchNearestTime(float time)
@@ -116,32 +115,23 @@ NearestDot Blackboard::nearestTo(float x) const
 
 void Blackboard::resetPlot()
 {
-    if (plotBottom >= 0 && plotTop >= 0)
-        return;
-    const ValueRange range = mode == twentyFourHours ? ranges.today : ranges.all;
-    const auto values = ChartScale::valuesOf(height(), topMargin, bottomMargin, range);
-    plotBottom = values.bottom;
-    plotTop = values.top;
-    scaleY = values.scale;
-    offsetY = values.offset;
+    if (valueScale.bottom < 0 || valueScale.top < 0)
+        valueScale = ChartScale::valuesOf(height(), topMargin, bottomMargin, shownRange());
 }
 
 void Blackboard::resetTimeLine()
 {
-    if (pxPerHour == 0.0F || pxPerSecond == 0.0F) {
+    if (timeScale.pxPerHour == 0.0F || timeScale.pxPerSecond == 0.0F) {
         screenXs.clear();
-        const auto scale = ChartScale::timesOf(width(), leftMargin, rightMargin, hours);
-        pxPerHour = scale.pxPerHour;
-        pxPerSecond = scale.pxPerSecond;
+        timeScale = ChartScale::timesOf(width(), timeScale.left, rightMargin, hours);
     }
-    if (pxPerHour <= 0.0F || (!times.isEmpty() && !screenXs.isEmpty()))
+    if (timeScale.pxPerHour <= 0.0F || (!times.isEmpty() && !screenXs.isEmpty()))
         return;
-    const ChartScale::Times scale{leftMargin, pxPerHour, pxPerSecond};
     times = valueMap.keys();
     screenXs.clear();
     screenXs.reserve(times.size());
     for (const int time : std::as_const(times))
-        screenXs.append(ChartScale::truncated(scale.toX(time)));
+        screenXs.append(ChartScale::truncated(timeScale.toX(time)));
 }
 
 void Blackboard::resetGeometry()
@@ -150,15 +140,20 @@ void Blackboard::resetGeometry()
     resetTimeLine();
 }
 
+ValueRange Blackboard::shownRange() const
+{
+    return mode == twentyFourHours ? ranges.today : ranges.all;
+}
+
 ChartFrame Blackboard::currentFrame() const
 {
     ChartFrame frame;
     frame.size = size();
     frame.pixelRatio = devicePixelRatioF();
-    frame.values = {plotBottom, plotTop, scaleY, offsetY};
-    frame.times = {leftMargin, pxPerHour, pxPerSecond};
+    frame.values = valueScale;
+    frame.times = timeScale;
     frame.rightMargin = rightMargin;
-    frame.range = mode == twentyFourHours ? ranges.today : ranges.all;
+    frame.range = shownRange();
     frame.hours = hours;
     frame.valueDivisions = valueDivisions;
     const auto [start, end] = getDayTimeRange(day);
@@ -223,8 +218,8 @@ void Blackboard::paintEvent(QPaintEvent *event)
 void Blackboard::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    pxPerHour = pxPerSecond = 0;
-    plotBottom = plotTop = -1;
+    timeScale = {.left = timeScale.left};
+    valueScale = {};
 }
 
 void Blackboard::followFinger(const QMouseEvent *event)

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "history/ChartPainter.h"
+#include "history/ChartScale.h"
 #include "history/NearestDot.h"
+#include "history/ValueRange.h"
 
 #include <QMap>
 #include <QPixmap>
@@ -59,11 +61,8 @@ public:
     // What the page changes, followed by update().
     int mode = twentyFourHours;
     CurrentDay day = 0;
-    float leftMargin = 35;
-    float pxPerHour = 0;   ///< 0: worked out anew
-    float pxPerSecond = 0; ///< 0: worked out anew
-    float plotBottom = -1; ///< negative: worked out anew
-    float plotTop = -1;    ///< negative: worked out anew
+    ChartScale::Times timeScale{.left = 35}; ///< worked out anew where it has no pixels per hour
+    ChartScale::Values valueScale;           ///< worked out anew where an end is negative
 
     // The rest of the presentation. A change takes effect like one of the page.
     float topMargin = 60;
@@ -97,6 +96,7 @@ private:
     void resetGeometry();
     void resetTimeLine();
     void resetPlot();
+    ValueRange shownRange() const;
     ChartFrame currentFrame() const;
     NearestDot nearestTo(float x) const;
     ChartMarker markerAt(int x, float value) const;
@@ -110,8 +110,6 @@ private:
     QList<int> times;
     QList<int> screenXs;
     ValueRanges ranges;
-    float scaleY = 0;
-    float offsetY = 0;
     float touchX = -1;
     QPixmap stillPart;
     ChartFrame stillFrame;

@@ -114,11 +114,8 @@ void HistoryPage::beginDay()
 void HistoryPage::present(int mode, float leftMargin)
 {
     blackboard->mode = mode;
-    blackboard->leftMargin = leftMargin;
-    blackboard->pxPerHour = 0;
-    blackboard->pxPerSecond = 0;
-    blackboard->plotBottom = -1;
-    blackboard->plotTop = -1;
+    blackboard->timeScale = {.left = leftMargin};
+    blackboard->valueScale = {};
     blackboard->update();
 }
 
