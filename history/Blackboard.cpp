@@ -273,6 +273,12 @@ void Blackboard::mouseReleaseEvent(QMouseEvent *event)
     emit signalMouseRelease();
 }
 
+void Blackboard::followClock()
+{
+    if (LocalTime::startOfDay(clock()) != paintedToday)
+        update();
+}
+
 void Blackboard::timeLineFrameChanged(int)
 {
     qDebug() << "time line";

@@ -72,17 +72,20 @@ public:
     int valueDivisions = 3;
     bool animating = false; ///< whether the time line reveals the axes
 
+signals:
+    /// Tells that the days of the chart have moved: midnight has passed, or the clock was set.
+    void daysMoved();
+    /// Tells of the reading under the finger. Emitted from painting, thus again with every repaint.
+    void signalTouch(float x, int time, float value, QColor valueColor, QString unit);
+    /// Tells that the finger has left, or that there is no reading to touch.
+    void signalMouseRelease();
+
 public slots:
+    /// Repaints the chart where its days have moved since the last painting.
+    void followClock();
+    /// Repaints the chart, with its axes revealed as far as the time line is.
     void timeLineFrameChanged(int frame);
     void reanimate1();
-
-signals:
-    /// The days that the chart shows have moved: midnight has passed, or the clock was set.
-    void daysMoved();
-    /// A reading is under the finger. Emitted from painting, thus again with every repaint.
-    void signalTouch(float x, int time, float value, QColor valueColor, QString unit);
-    /// The finger has left, or there is no reading to touch.
-    void signalMouseRelease();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -11,6 +11,10 @@
 #include <cstdlib>
 
 namespace {
+using namespace std::chrono_literals;
+
+// Asked for instead of waiting for midnight: a clock that is set moves the days at any time.
+constexpr auto clockWatchPeriod = 1s;
 constexpr int indexOf7Days = 0;
 constexpr float marginOf24Hours = 35;
 // Room for the day buttons.
@@ -48,12 +52,10 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
     blackboard = new Blackboard(ui->blackboard_content, clock);
     connect(blackboard, &Blackboard::signalTouch, this, &HistoryPage::onBlackboradTouch);
     connect(blackboard, &Blackboard::signalMouseRelease, this, &HistoryPage::onBlackboradRelease);
-    midnight.setSingleShot(true);
-    midnight.setTimerType(Qt::PreciseTimer);
     // Queued: names must not change while the chart is painted.
     connect(blackboard, &Blackboard::daysMoved, this, &HistoryPage::labelDays,
             Qt::QueuedConnection);
-    connect(&midnight, &QTimer::timeout, this, &HistoryPage::beginDay);
+    connect(&clockWatch, &QTimer::timeout, blackboard, &Blackboard::followClock);
     loadData();
     ui->blackboard_content->layout()->addWidget(blackboard);
     labelDays();
@@ -78,12 +80,14 @@ void HistoryPage::loadData()
 void HistoryPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    beginDay();
+    labelDays();
+    blackboard->followClock();
+    clockWatch.start(clockWatchPeriod);
 }
 
 void HistoryPage::hideEvent(QHideEvent *event)
 {
-    midnight.stop();
+    clockWatch.stop();
     QWidget::hideEvent(event);
 }
 
@@ -100,15 +104,6 @@ void HistoryPage::labelDays()
     int daysAgo = 0;
     for (QRadioButton *button : dayButtons())
         button->setText(now.addDays(-daysAgo++).toString(QStringLiteral("dd 日")));
-}
-
-// The chart follows the clock whenever it is painted, and tells so; an idle one would stay behind.
-void HistoryPage::beginDay()
-{
-    labelDays();
-    blackboard->update();
-    midnight.start(
-        std::chrono::seconds(LocalTime::secondsPerDay - LocalTime::secondOfDay(clock())));
 }
 
 void HistoryPage::present(int mode, float leftMargin)

@@ -20,7 +20,7 @@ class HistoryPage;
 /// The page of the history: a chart of today or of seven days, read by touch.
 ///
 /// It shows a generated demonstration series, not the readings of the device. While it is visible
-/// the day buttons follow midnight. GUI thread.
+/// its days follow the clock. GUI thread.
 class HistoryPage : public QWidget
 {
     Q_OBJECT
@@ -62,7 +62,6 @@ private:
     static constexpr std::size_t numberOfDays = 7;
     std::array<QRadioButton *, numberOfDays> dayButtons() const;
     void labelDays();
-    void beginDay();
     void present(int mode, float leftMargin);
     void selectDay(int day);
 
@@ -71,5 +70,5 @@ private:
     std::unique_ptr<Ui::HistoryPage> ui;
     SlideLabel *slideLabel;
     Blackboard *blackboard;
-    QTimer midnight;
+    QTimer clockWatch;
 };

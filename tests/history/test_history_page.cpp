@@ -116,8 +116,9 @@ private slots:
 
     void aClockThatIsSetRenamesTheDaysWithTheChart()
     {
+        // An idle chart: all that the showing asked for is painted.
+        QCoreApplication::processEvents();
         now -= 3 * 86400;
-        chart->update();
         QTRY_COMPARE(dayText(0), QString("18 日"));
     }
 
