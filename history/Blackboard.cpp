@@ -36,6 +36,7 @@ Blackboard::Blackboard(QWidget *parent, LocalTime::Clock currentTime)
     connect(timeLine, &QTimeLine::frameChanged, this, &Blackboard::timeLineFrameChanged);
 }
 
+// Kept[one-colour-scale]: for temperature and humidity, too.
 PmColorGenerator &Blackboard::gc()
 {
     static PmColorGenerator generator;
@@ -68,6 +69,7 @@ std::pair<int, int> Blackboard::getDayTimeRange(CurrentDay wanted) const
     return {held(end - days * LocalTime::secondsPerDay), held(end)};
 }
 
+// Kept[midnight-reversed]: true at any time but that of its name.
 bool Blackboard::is0oclock(int t)
 {
     return LocalTime::secondOfDay(t) != 0;
@@ -210,6 +212,7 @@ void Blackboard::paintEvent(QPaintEvent *event)
     qDebug() << "Nearest X:" << time << "Value " << value;
     ChartPainter(&painter, frame, &gc()).drawMarker(marker);
     paintedMarker = ChartPainter::markerRect(marker, height());
+    // Kept[touch-from-painting]: again with every repaint.
     // Whoever listens may change what lies around the chart: not under a painter at work.
     painter.end();
     emit signalTouch(float(x), time, value, marker.color, unitOf(type));

@@ -73,6 +73,7 @@ void HistoryPage::hiding() {}
 void HistoryPage::loadData()
 {
     const qint64 now = clock();
+    // Kept[demonstration-series]: not what the device has measured.
     std::srand(unsigned(now));
     blackboard->setValueMap(demonstrationSeries(now, quantity, std::rand), quantity);
 }

@@ -52,6 +52,7 @@ SlideLabel::SlideLabel(QWidget *parent)
     grid->addWidget(unitLabel, 1, 1);
 }
 
+// Kept[read-out-date]: the date it was built with stays.
 void SlideLabel::updateValue(float value, const QString &unit, const QString &, const QColor &color)
 {
     valueLabel->setText(QString::asprintf("%.1f", double(value)));

@@ -24,6 +24,7 @@ void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> com
         label->setText(QStringLiteral("%1").arg(reading));
         return;
     }
+    // Kept[unit-stays-hidden]: also when a valid reading follows.
     label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     label->setPixmap(QPixmap(QStringLiteral(":/resource/images/mainPage/num/--.png")));
     for (QLabel *companion : companions)
@@ -63,7 +64,7 @@ void BaseScene::connect_init()
             &BaseScene::on_button_history_clicked, Qt::UniqueConnection);
 }
 
-// Made at start-up and kept; no motion of the overlay uses them yet.
+// Kept[idle-motions]: made at start-up; no motion of the overlay uses them yet.
 void BaseScene::animation_init()
 {
     auto *together = new QParallelAnimationGroup(this);

@@ -40,6 +40,7 @@ QString GradualValueToColor::colorAt(float value)
 {
     const float wanted = std::isnan(value) ? 0.0F : value;
     const auto [lower, upper] = findRangRgb(wanted, colors);
+    // Kept[read-inserts-stops]: an end without a stop reads as black and becomes one.
     const RGB low = colors[lower];
     const RGB high = colors[upper];
     const float t = (wanted - lower) / (upper - lower);
@@ -53,6 +54,8 @@ QString GradualValueToColor::colorAt(float value)
     const unsigned combined =
         (blend(low.r, high.r) << 16) | (blend(low.g, high.g) << 8) | blend(low.b, high.b);
     const QString digits = QString::number(combined, 16);
+    // Kept[short-colour-names]: one zero at the most, so that a dark colour has fewer than six
+    // digits.
     return digits.size() >= 6 ? QLatin1Char('#') + digits.right(6) : QStringLiteral("#0") + digits;
 }
 

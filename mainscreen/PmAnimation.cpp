@@ -51,6 +51,7 @@ void PmAnimation::init()
     bar->setObjectName(QStringLiteral("label_scanning"));
     bar->setPixmap(picture(QStringLiteral("scanning")));
     bar->setGeometry(getScanningStartRectF());
+    // Kept[same-dust]: the same paths at every start.
     random.seed(0);
     scanCounter = 0;
     bar->show();

@@ -31,6 +31,7 @@ bool hasPrevious(float position)
     return position < 0;
 }
 
+// Kept[tiles-lead-further]: tiles count from 1, the strip from 0.
 std::optional<int> slideToChosen(float position, int page)
 {
     if (int(-position) == page)
