@@ -1,17 +1,21 @@
 #include "acquisition/GetData.h"
+#include "acquisition/PM25Uart.h"
+#include "shell/Global_cfg.h"
 #include "store/ZellDatabase.h"
 #include "testkit/CallSlot.h"
-#include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/PseudoTerminal.h"
 #include "testkit/TableRows.h"
 
+#include <QSerialPort>
 #include <QSignalSpy>
 #include <QSqlQuery>
 #include <QTimer>
 #include <sys/stat.h>
 
-class TestGetData : public QObject
+using simulator::replaceFile;
+
+class TestAcquisition : public QObject
 {
     Q_OBJECT
 
@@ -39,12 +43,25 @@ class TestGetData : public QObject
         return values;
     }
 
-    static void write(const QString &path, const QByteArray &content)
+    static void tick(GetData &scheduler) { callSlot(&scheduler, "refresh_allData"); }
+
+    // 0x01020304 at offset 16; sum 0x5A + 0xA5 + 0x04 + 0x03 + 256 * 0x02.
+    const QByteArray frame =
+        "\x5A\xA5" + QByteArray(14, '\0') + "\x04\x03\x02\x01" + QByteArray(38, '\0') + "\x03\x06";
+
+    QByteArray changed(int index) const
     {
-        QVERIFY(simulator::replaceFile(path, content));
+        return QByteArray(frame).replace(index, 1, QByteArray(1, char(frame[index] ^ 1)));
     }
 
-    static void tick(GetData &scheduler) { callSlot(&scheduler, "refresh_allData"); }
+    struct Bursts
+    {
+        const char *name;
+        QByteArrayList sent;
+        int values, errors;
+    };
+
+    static QSerialPort *serialPort() { return qApp->findChild<QSerialPort *>(); }
 
 private slots:
     void init()
@@ -53,7 +70,7 @@ private slots:
         zelldatabase = database.get();
         GetData::iTempHumNum = GetData::iTotalTempValue = 0;
         QFile::remove(sensor);
-        write(sensor, "temp = 23456, humidity = 45678\n");
+        replaceFile(sensor, "temp = 23456, humidity = 45678\n");
     }
 
     void fields_data()
@@ -90,18 +107,17 @@ private slots:
 
     void faultySensor_data()
     {
-        addRows<Fault>(
-            {{"no file", [](const QString &) {}},
-             {"empty file", [](const QString &path) { write(path, ""); }},
-             {"endless file", [](const QString &path) { write(path, QByteArray(64 << 20, 0)); }},
-             {"pipe", [](const QString &path) { mkfifo(qPrintable(path), 0600); }}});
+        addRows<Fault>({{"no file", [](const QString &) {}},
+                        {"empty file", [](const QString &path) { replaceFile(path, ""); }},
+                        {"endless file",
+                         [](const QString &path) { replaceFile(path, QByteArray(64 << 20, 0)); }},
+                        {"pipe", [](const QString &path) { mkfifo(qPrintable(path), 0600); }}});
     }
 
     void faultySensor()
     {
         QFETCH(Fault, row);
-        GetData one;
-        GetData other;
+        GetData one, other;
         tick(other); // a fault is told afresh after a good reading
         QVERIFY(QFile::remove(sensor));
         row.make(sensor);
@@ -115,13 +131,12 @@ private slots:
 
     void everySchedulerTellsItsListeners()
     {
-        GetData first;
-        GetData second;
+        GetData first, second;
         QCOMPARE(getData, &first);
         const QSignalSpy ofFirst(&first, &GetData::signal_updateTempData);
         const QSignalSpy ofSecond(&second, &GetData::signal_updateTempData);
         for (const QByteArray temperature : {"00000", "00000", "21000", "21400", "00000"}) {
-            write(sensor, "temp = " + temperature + ", humidity = 45678\n");
+            replaceFile(sensor, "temp = " + temperature + ", humidity = 45678\n");
             tick(first);
             tick(second);
         }
@@ -185,7 +200,7 @@ private slots:
         line.reset();
         QTRY_COMPARE(log.count("UART lost"), 1);
         line = std::make_unique<PseudoTerminal>();
-        write(supply, "0");
+        replaceFile(supply, "0");
         schedulers[0].start_PM25_samping(); // brings the line back to all
         for (int open = 3; open > 0; --open) {
             QCOMPARE(Environment::contentOf(supply), "1");
@@ -197,7 +212,91 @@ private slots:
         QVERIFY(!line->isOpened());
         QCOMPARE(Environment::contentOf(supply), "0");
     }
+
+    void decodesGoodFramesOnly()
+    {
+        QByteArray bytes = frame.chopped(1);
+        QCOMPARE(PM2_5_dataHandle(&bytes), PM25_ERROR_DATA);
+        for (int i = 0; i < frame.size(); ++i) {
+            bytes = changed(i);
+            const bool summed = i >= 58 || (i < 56 && i % 4 != 3);
+            QCOMPARE(PM2_5_dataHandle(&bytes) == PM25_ERROR_DATA, summed);
+        }
+    }
+
+    void bursts_data()
+    {
+        addRows<Bursts>({{"good, short, good", {frame, frame.chopped(1), frame}, 2, 0},
+                         {"bad checksum or header", {changed(59), changed(0), changed(1)}, 0, 1},
+                         {"one byte too many", {frame + 'x', frame}, 1, 0},
+                         {"two frames at once", {frame + frame}, 0, 0},
+                         {"split frame", {frame.first(20), frame.sliced(20)}, 0, 0}});
+    }
+
+    void bursts()
+    {
+        QFETCH(Bursts, row);
+        PseudoTerminal line;
+        const MessageLog log;
+        PM25Uart uart;
+        uart.rxDataReady_slot(); // nothing open: nothing said
+        QSignalSpy reported(&uart, &PM25Uart::signal_updatePMData);
+        QVERIFY(uart.openUart("ttyUSB0"));
+        for (const QByteArray &burst : row.sent) {
+            QVERIFY(line.send(burst));
+            QVERIFY(reported.wait());
+            QCOMPARE(reported.last()[0].toInt(), 1000);
+        }
+        QCOMPARE(log.count("Read PM2.5 =  999999"), int(row.sent.size()));
+        QCOMPARE(log.count("接收到PM2.5数据: 16909060"), row.values);
+        QCOMPARE(log.count("Read PM2.5 Error "), row.errors);
+        QCOMPARE(log.count("PM2.5 CRC Error =  774"), row.errors);
+        uart.rxDataReady_slot();
+        QCOMPARE(log.lines().last(), "Read PM2.5 =  999999");
+        QCOMPARE(log.count("UART 无数据错误中断！"), 1);
+    }
+
+    void lineComesAndGoes()
+    {
+        replaceFile(supply, "0");
+        QFile supplyFile(supply);
+        QVERIFY(supplyFile.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+        const MessageLog log;
+        auto uart = std::make_unique<PM25Uart>();
+        QVERIFY(!uart->openUart("ttyUSB0"));
+        QVERIFY(log.contains("device failed to open: \""));
+        auto line = std::make_unique<PseudoTerminal>();
+        QVERIFY(uart->openUart("ttyUSB0"));
+        QVERIFY(uart->openUart("ttyUSB0")); // the first opening must let go of the line
+        QByteArray greeting;
+        QTRY_VERIFY((greeting += line->received()).endsWith("UART Test = 9\r\n"));
+        const QSignalSpy errors(serialPort(), &QSerialPort::errorOccurred);
+        line->pullOut();
+        QTRY_VERIFY(!serialPort()->isOpen());
+        QCOMPARE(log.count("UART lost"), 1);
+        QVERIFY(errors.size() < 10);
+        line.reset();
+        line = std::make_unique<PseudoTerminal>();
+        QVERIFY(uart->openUart("ttyUSB0"));
+        QCOMPARE(supplyFile.readAll(), "1");
+        uart.reset(); // in the middle of a sampling
+        QVERIFY(supplyFile.seek(0));
+        QCOMPARE(supplyFile.readAll(), "0");
+    }
+
+    // Closing waits for the sensor to take what is on its way, half a minute if it hangs.
+    void queuedOutputIsDropped()
+    {
+        PseudoTerminal line;
+        PM25Uart uart;
+        QVERIFY(uart.openUart("ttyUSB0"));
+        const QByteArray flood(8000, 'x'); // more than the far end takes in unread
+        serialPort()->write(flood);
+        QTRY_COMPARE(serialPort()->bytesToWrite(), 0);
+        uart.closeUart();
+        QVERIFY(line.received().size() < flood.size());
+    }
 };
 
-ZELL_TEST_MAIN(TestGetData)
-#include "test_get_data.moc"
+ZELL_TEST_MAIN(TestAcquisition)
+#include "test_acquisition.moc"
