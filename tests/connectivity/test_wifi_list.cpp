@@ -96,11 +96,10 @@ private slots:
         networks->home.setConnectState(ConnectState::StateConnected);
         QVariantList meanwhile;
         QTimer::singleShot(0, &model, [&] { meanwhile = columnOf(model, Qt::CheckStateRole); });
-        QElapsedTimer clock;
-        clock.start();
+        const QDeadlineTimer second(1000);
         const std::clock_t work = std::clock();
         model.toConnect(1);
-        QVERIFY(clock.elapsed() >= 1000);
+        QVERIFY(second.hasExpired());
         QVERIFY2(std::clock() - work < CLOCKS_PER_SEC / 4, "asleep meanwhile");
         QCOMPARE(meanwhile, (QVariantList{0, 3, 0}));
         QCOMPARE(columnOf(model, Qt::CheckStateRole), (QVariantList{0, 1, 0}));
@@ -147,16 +146,12 @@ private slots:
         QCOMPARE(log.count("scan result too long"), 2);
     }
 
-    void scanCommandIsQuotedWhereNeedBe()
+    void endlessScanIsEnded()
     {
         QCOMPARE(scanCommand("/var/lib/zell-1.0_a"),
                  "iwlist wlan1 scanning|grep ESSID > "
                  "/var/lib/zell-1.0_a/../resource/WiFi-SSID.txt");
         QVERIFY(scanCommand("/a b").endsWith("> '/a b/../resource/WiFi-SSID.txt'"));
-    }
-
-    void endlessScanIsEnded()
-    {
         Environment::writeDeviceScript("/iwlist", "yes 'ESSID:\"A\"'");
         qputenv("PATH", Environment::deviceRoot().toLocal8Bit() + ':' + qgetenv("PATH"));
         QVERIFY(QDir().mkpath("../resource"));
