@@ -12,6 +12,7 @@ function(zell_configure_target target)
         QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+        -Wold-style-cast
         $<$<BOOL:${ZELL_WARNINGS_AS_ERRORS}>:-Werror>)
 endfunction()
 
