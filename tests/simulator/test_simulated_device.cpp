@@ -43,6 +43,8 @@ private slots:
             QCOMPARE(decoded(harmless), 567);
         for (const FrameFault fault : {BadChecksum, BadHeader, Short})
             QCOMPARE(decoded(fault), PM25_ERROR_DATA);
+        QRandomGenerator random(1);
+        QVERIFY(sensorBursts(BadHeader, 567, random).first().startsWith("ZZ"));
     }
 
     void textsKeepTheirColumnsUnlessBroken()
