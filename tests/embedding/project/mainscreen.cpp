@@ -1,3 +1,4 @@
+#include "Names.h"
 #include "mainscreen/BaseScene.h"
 #include "mainscreen/HumidityPage.h"
 #include "mainscreen/MainView.h"
@@ -9,32 +10,35 @@
 // Protected slots are there for classes that derive.
 class View : public MainView
 {
-    using MainView::choose_page;
-    using MainView::slide_left;
-    using MainView::slide_right;
-};
-
-template <class Page>
-class Reading : public Page
-{
-    using Page::update_currentData;
+    using MainView::choose_page, MainView::slide_left, MainView::slide_right;
 };
 
 class PmReading : public PmPage
 {
-    using PmPage::ShowAnimation;
+    using PmPage::ShowAnimation, PmPage::update_currentData;
+};
+
+class TemperatureReading : public TemperaturePage
+{
+    using TemperaturePage::update_currentData;
+};
+
+class HumidityReading : public HumidityPage
+{
+    using HumidityPage::update_currentData;
 };
 
 void mainView()
 {
     MainView view(nullptr);
-    QGraphicsView *base = &view;
+    QGraphicsView &base = view;
+    base.show();
     view.slide(-1);
     view.slide_show(MainView::SlideDirection(2));
 
     BaseScene overlay(nullptr);
-    QObject::connect(&overlay, &BaseScene::signal_jumpToOption, base, &QWidget::close);
-    QObject::connect(&overlay, &BaseScene::signal_jumpPage, base, [](int) {});
+    listen(&overlay, &BaseScene::signal_jumpToOption);
+    QObject::connect(&overlay, &BaseScene::signal_jumpPage, [](int) {});
     overlay.change_currentPage(1);
 }
 
@@ -42,33 +46,28 @@ void readingPages()
 {
     PmPage page(nullptr);
     page.update_pmData(35);
-    BaseValue *base = &page;
-    QObject::connect(base, &BaseValue::signal_slideRight, base, &QWidget::close);
-    QObject::connect(base, &BaseValue::signal_slideLeft, base, &QWidget::close);
-    const Reading<PmPage> pm;
-    const Reading<TemperaturePage> temperature;
-    const Reading<HumidityPage> humidity;
+    for (BaseValue *base :
+         {static_cast<BaseValue *>(&page), static_cast<BaseValue *>(new TemperaturePage(nullptr)),
+          static_cast<BaseValue *>(new HumidityPage(nullptr))})
+        listen(base, &BaseValue::signal_slideRight, &BaseValue::signal_slideLeft);
 
     PmAnimation animation(&page);
-    QObject::connect(&animation, &PmAnimation::Finish, static_cast<QFrame *>(&animation),
-                     &QWidget::close);
-    animation.init();
-    animation.startAnimation();
-    animation.stopAnimation();
+    QFrame &base = animation;
+    base.show();
+    listen(&animation, &PmAnimation::Finish);
+    call(animation, &PmAnimation::init, &PmAnimation::startAnimation, &PmAnimation::stopAnimation);
 }
 
 void colours()
 {
-    GradualValueToColor scale;
+    PmColorGenerator generator;
+    GradualValueToColor &scale = generator;
     scale.setStartColor(0x64dd17);
     scale.setEndColor(0xba1650);
     scale.setColorAt(0.5F, 0xffeb3b);
     RGB rgb;
     scale.parseHexToRGB(0xffeb3b, rgb.r, rgb.g, rgb.b);
-    const QString name = scale.colorAt(0.25F);
     const std::pair<float, float> range = findRangRgb(0.5F, QMap<float, RGB>{{0.0F, rgb}});
-    PmColorGenerator generator;
-    const GradualValueToColor *base = &generator;
     const QColor color = generator.colorOfPm(range.first);
-    static_cast<void>(base && color.name() == name);
+    const QString name = scale.colorAt(range.second) + color.name();
 }

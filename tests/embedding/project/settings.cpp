@@ -1,4 +1,4 @@
-#include "Page.h"
+#include "Names.h"
 #include "settings/DateTimePage.h"
 #include "settings/FactoryReset_Confirm.h"
 #include "settings/Factory_Reset.h"
@@ -19,45 +19,36 @@
 void menu()
 {
     OptionPage menu(nullptr);
-    QObject::connect(&menu, &OptionPage::signal_back_lastPage, &menu, &QWidget::close);
-    menu.jump_setWifi_page();
-    menu.jump_setTime_page();
-    menu.jump_setNightPatternSlt();
-    menu.jump_adjustLight_page();
-    menu.jump_setLanguage_page();
-    menu.jump_setLocation_page();
-    menu.jump_connectApp_page();
-    menu.jump_updateFirmware_page();
-    menu.jump_resetFactory_page();
-    menu.back_default_page();
-    menu.on_button_back_clicked();
-    menu.option_setTempture();
-    const bool showsMenu = menu.is_allowed_slide();
+    listen(&menu, &OptionPage::signal_back_lastPage);
+    call(menu, &OptionPage::jump_setWifi_page, &OptionPage::jump_setTime_page,
+         &OptionPage::jump_setNightPatternSlt, &OptionPage::jump_adjustLight_page,
+         &OptionPage::jump_setLanguage_page, &OptionPage::jump_setLocation_page,
+         &OptionPage::jump_connectApp_page, &OptionPage::jump_updateFirmware_page,
+         &OptionPage::jump_resetFactory_page, &OptionPage::back_default_page,
+         &OptionPage::on_button_back_clicked, &OptionPage::option_setTempture);
     OptionFrame tile(&menu);
-    QObject::connect(&tile, &OptionFrame::clicked, static_cast<QFrame *>(&tile), &QWidget::close);
+    QFrame &base = tile;
+    base.setVisible(menu.is_allowed_slide());
+    listen(&tile, &OptionFrame::clicked);
     tile.change_status();
-    tile.setVisible(showsMenu);
 }
 
 void timePages(QWidget *holder, QPainter *painter)
 {
-    auto *time = page<SetTimePage>(holder);
-    time->on_button_timeZone_clicked();
-    time->on_button_dateTime_clicked();
-    time->back_default_page();
-    page<DateTimePage>(holder)->Set24Hour(false);
+    call(opened<SetTimePage>(holder), &SetTimePage::on_button_timeZone_clicked,
+         &SetTimePage::on_button_dateTime_clicked, &SetTimePage::back_default_page);
+    opened<DateTimePage>(holder).Set24Hour(false);
     DateTimePage::instance->list_init();
-    page<TimeZonePage>(holder)->on_tableWidget_timeZone_cellDoubleClicked(0, 1);
+    opened<TimeZonePage>(holder).on_tableWidget_timeZone_cellDoubleClicked(0, 1);
     TimeZonePage::instance->eventFilter(holder, nullptr);
     const TimeZoneItemDelegate delegate(QPixmap(), holder);
     delegate.paint(painter, QStyleOptionViewItem(), QModelIndex());
     delegate.sizeHint(QStyleOptionViewItem(), QModelIndex());
     const timeZoneItem item;
-    static_cast<void>(item);
 
     QmlApplicationViewer spinner(holder);
     const QmlApplicationViewer other(static_cast<QQuickWidget *>(nullptr), holder);
-    QObject::connect(&spinner, &QmlApplicationViewer::hour, holder, [](int) {});
+    QObject::connect(&spinner, &QmlApplicationViewer::hour, [](int) {});
     spinner.setMainQmlFile(QString("qrc:/resource/qml/spinner_hour.qml"));
     spinner.addImportPath(QString("qml"));
     spinner.setOrientation(QmlApplicationViewer::ScreenOrientation(2));
@@ -66,27 +57,20 @@ void timePages(QWidget *holder, QPainter *painter)
 
 void otherPages(QWidget *holder)
 {
-    auto *night = page<nightModePage>(holder);
-    night->SetTimeControlHideSlt();
-    night->on_button_startTime_clicked();
-    night->on_button_finishTime_clicked();
-    night->back_default_page();
-    night->on_button_setNightMode_clicked();
-    auto *times = page<timePage>(holder);
-    times->on_pushButton_start_clicked();
-    times->on_pushButton_finish_clicked();
-    auto *brightness = page<adjustLight>(holder);
-    brightness->check_lightAdjust();
-    brightness->light_valueChanged(132);
-    brightness->cause_lightUpdate();
+    call(opened<nightModePage>(holder), &nightModePage::SetTimeControlHideSlt,
+         &nightModePage::on_button_startTime_clicked, &nightModePage::on_button_finishTime_clicked,
+         &nightModePage::back_default_page, &nightModePage::on_button_setNightMode_clicked);
+    call(opened<timePage>(holder), &timePage::on_pushButton_start_clicked,
+         &timePage::on_pushButton_finish_clicked);
+    auto &brightness = opened<adjustLight>(holder);
+    brightness.light_valueChanged(132);
+    call(brightness, &adjustLight::check_lightAdjust, &adjustLight::cause_lightUpdate);
     QListWidgetItem item;
-    page<setLanguagePage>(holder)->on_listWidget_itemClicked(&item);
-    auto *reset = page<Factory_Reset>(holder);
-    reset->on_button_confirm_clicked();
-    reset->back_default_page();
+    opened<setLanguagePage>(holder).on_listWidget_itemClicked(&item);
+    call(opened<Factory_Reset>(holder), &Factory_Reset::on_button_confirm_clicked,
+         &Factory_Reset::back_default_page);
     FactoryReset_Confirm confirm(holder);
-    QObject::connect(&confirm, &FactoryReset_Confirm::signal_backDefaultPage, holder,
-                     &QWidget::close);
-    confirm.cancel_factoryReset();
-    confirm.confirm_factoryReset();
+    listen(&confirm, &FactoryReset_Confirm::signal_backDefaultPage);
+    call(confirm, &FactoryReset_Confirm::cancel_factoryReset,
+         &FactoryReset_Confirm::confirm_factoryReset);
 }

@@ -1,3 +1,4 @@
+#include "Names.h"
 #include "acquisition/GetData.h"
 #include "shell/Global_cfg.h"
 #include "shell/MainWindow.h"
@@ -14,16 +15,13 @@ void shell()
     g_sLanguage = QString::number(constants[0]);
     zelldatabase = new ZellDatabase;
     getData = new GetData;
-    randUARTSignal = new QTimer(getData);
+    randUARTSignal = new QTimer;
 
     MainWindow window(nullptr);
-    QMainWindow *base = &window;
-    QObject::connect(&window, &MainWindow::signal_update, base, &QWidget::close);
-    QObject::connect(&window, &MainWindow::signal_activeStatus, base, &QWidget::close);
-    QObject::connect(&window, &MainWindow::signal_inactiveStatus, base, &QWidget::close);
-    window.time_update();
-    window.change_status();
-    window.jump_toOption();
-    window.jump_toMainPage();
-    window.anOption_finished();
+    QMainWindow &base = window;
+    base.show();
+    listen(&window, &MainWindow::signal_update, &MainWindow::signal_activeStatus,
+           &MainWindow::signal_inactiveStatus);
+    call(window, &MainWindow::time_update, &MainWindow::change_status, &MainWindow::jump_toOption,
+         &MainWindow::jump_toMainPage, &MainWindow::anOption_finished);
 }

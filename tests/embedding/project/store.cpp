@@ -1,3 +1,4 @@
+#include "Names.h"
 #include "acquisition/GetData.h"
 #include "store/ZellDatabase.h"
 
@@ -5,16 +6,16 @@ void database()
 {
     ZellDatabase database(nullptr);
     QThread *base = &database;
+    base->start();
     GetData scheduler;
     QObject::connect(&scheduler, &GetData::signal_insertDataBaseItem, &database,
                      &ZellDatabase::InsertDataBaseItem);
-    base->start();
-    database.open_database();
+    const QString table("PM2_5");
     database.CreateDataBase(QString("ZellQt4.db"));
     database.CreateDataBaseTable(QString("create table PM2_5 (UnixSec uint)"));
-    database.InsertDataBaseItem(time_t(0), QString("PM2_5"), 0, 1);
-    database.DeleteDataBaseTimeItem(QString("PM2_5"), 1L);
-    database.DeleteDataBaseItem(QString("PM2_5"), QString("PM2_5"), QString("1"));
-    database.QueryPm25Values();
-    database.close_database();
+    database.InsertDataBaseItem(time_t(0), table, 0, 1);
+    database.DeleteDataBaseTimeItem(table, 1L);
+    database.DeleteDataBaseItem(table, table, QString("1"));
+    call(database, &ZellDatabase::open_database, &ZellDatabase::QueryPm25Values,
+         &ZellDatabase::close_database);
 }
