@@ -6,86 +6,34 @@ using namespace std::chrono_literals;
 namespace {
 constexpr QPoint firstNetwork(427, 120);
 constexpr QPoint secondNetwork(427, 200);
+const Step back = tapping("button_back");
 
-void chooseNetwork(Walk &walk, const QPoint &row)
+void chooseNetworkMeanwhile(Walk &walk)
 {
-    walk.tapAt(row);
-    walk.waitFor(QStringLiteral("the password page"),
-                 [&walk] { return walk.sees(QStringLiteral("button_enter")); });
-    walk.settle();
+    walk.keepPictureSoon();
+    walk.tapAt(secondNetwork);
 }
 
-std::vector<Stop> wifiStops()
+void showFailure(Walk &walk)
 {
-    return {
-        {"wifi-list", backAndOpen("option_setWifi")},
-        {"wifi-list-connecting",
-         [](Walk &walk) {
-             chooseNetwork(walk, firstNetwork);
-             tapping({"button_back"})(walk);
-             walk.keepPictureSoon();
-             chooseNetwork(walk, secondNetwork);
-         }},
-        {"wifi-password", [](Walk &walk) { walk.type(QStringLiteral("zell2016")); }},
-        {"wifi-password-pressed", [](Walk &walk) { walk.pressKey(QLatin1Char('g')); }},
-        {"wifi-password-upper",
-         [](Walk &walk) {
-             walk.release();
-             tapping({"button_shiftNormal"})(walk);
-         }},
-        {"wifi-password-symbol", tapping({"button_symbol_2"})},
-        {"wifi-result-success", calling("passwordKeyboard", "jump_wifiConnectResult_page")},
-        {"wifi-result-fail",
-         [](Walk &walk) {
-             walk.rearrange(
-                 "label_success", {"label_success", "label_infoSuccess", "button_forgetSuccess"},
-                 {"label_fail", "label_infoFail", "button_forgetFail", "button_retryFail"});
-         }},
-        {"wifi-none",
-         [](Walk &walk) {
-             walk.restartAtMenu();
-             walk.setNetworks({});
-             walk.openTile(QStringLiteral("option_setWifi"));
-         }},
-    };
+    walk.rearrange("label_success", {"label_success", "label_infoSuccess", "button_forgetSuccess"},
+                   {"label_fail", "label_infoFail", "button_forgetFail", "button_retryFail"});
 }
 
-std::vector<Stop> pairingStops()
+void showPairing(Walk &walk)
 {
-    return {
-        {"app-page", backAndOpen("option_connectApp")},
-        {"pairing-number", tapping({"button_connectApp"})},
-        {"unpair-confirm",
-         [](Walk &walk) {
-             backAndOpen("option_connectApp")(walk);
-             calling("connectApp", "jump_disconnectApp_page")(walk);
-         }},
-        {"pairing-result-waiting", tapping({"button_confirm"})},
-        {"pairing-result",
-         [](Walk &walk) {
-             walk.rearrange("label_background", {},
-                            {"icon_connectSuccess", "label_connectSuccess"});
-         }},
-    };
+    walk.rearrange("label_background", {}, {"icon_connectSuccess", "label_connectSuccess"});
 }
 
-std::vector<Stop> locationStops()
+void loseNetworks(Walk &walk)
 {
-    return {
-        {"location",
-         [](Walk &walk) {
-             walk.restartAtMenu();
-             walk.openTile(QStringLiteral("option_setLocation"));
-         }},
-        {"location-search",
-         [](Walk &walk) {
-             tapping({"button_search"})(walk);
-             walk.type(QStringLiteral("bei"));
-         }},
-        {"location-result", tapping({"button_enter"})},
-        {"location-no-result", tapping({"button_deleteLocation"})},
-        {"location-search-again", tapping({"button_back"})},
-    };
+    walk.setNetworks({});
+}
+
+void awaitProgress(Walk &walk)
+{
+    walk.waitFor(QStringLiteral("progress"),
+                 [&walk] { return walk.textOf("label_process").contains("46"); });
 }
 
 // The first download stays at 46 per cent until it is cut off, the second one is there at once.
@@ -105,44 +53,44 @@ std::shared_ptr<simulator::FirmwareServer> firmwareServer()
     qputenv("ZELL_FIRMWARE_URL", server->url().toLatin1());
     return server;
 }
-
-std::vector<Stop> firmwareStops()
-{
-    const auto server = firmwareServer();
-    return {
-        {"firmware-idle", backAndOpen("option_updateFirmware")},
-        {"firmware-found", tapping({"button_checkUpdate"})},
-        {"firmware-downloading",
-         [](Walk &walk) {
-             walk.tap(QStringLiteral("button_update"));
-             walk.waitFor(QStringLiteral("progress"),
-                          [&walk] { return walk.textOf("label_process").contains("46"); });
-             walk.settle();
-         }},
-        {"firmware-retry",
-         [server](Walk &walk) {
-             server->dropClients();
-             walk.waitFor(QStringLiteral("the retry page"),
-                          [&walk] { return walk.sees(QStringLiteral("button_retry")); });
-             walk.settle();
-         }},
-        {"firmware-after-retry", tapping({"button_retry"})},
-        {"firmware-install",
-         [](Walk &walk) {
-             backAndOpen("option_updateFirmware")(walk);
-             tapping({"button_checkUpdate", "button_update"})(walk);
-             walk.waitFor(QStringLiteral("the install page"),
-                          [&walk] { return walk.sees(QStringLiteral("label_installInfo")); });
-             walk.settle();
-         }},
-    };
-}
 } // namespace
 
 std::vector<Stop> connectivityStops()
 {
-    std::vector<Stop> stops;
-    for (const auto &part : {wifiStops(), pairingStops(), locationStops(), firmwareStops()})
-        stops.insert(stops.end(), part.begin(), part.end());
-    return stops;
+    const Step cutOff = [server = firmwareServer()](Walk &) { server->dropClients(); };
+    return {
+        {"wifi-list", {back, opening("option_setWifi")}},
+        {"wifi-list-connecting",
+         {tappingAt(firstNetwork), seeing("button_enter"), back, chooseNetworkMeanwhile,
+          seeing("button_enter")}},
+        {"wifi-password", {typing("zell2016")}},
+        {"wifi-password-pressed", {[](Walk &walk) { walk.pressKey(QLatin1Char('g')); }}},
+        {"wifi-password-upper", {&Walk::release, tapping("button_shiftNormal")}},
+        {"wifi-password-symbol", {tapping("button_symbol_2")}},
+        {"wifi-result-success", {calling("passwordKeyboard", "jump_wifiConnectResult_page")}},
+        {"wifi-result-fail", {showFailure}},
+        {"wifi-none", {&Walk::restartAtMenu, loseNetworks, opening("option_setWifi")}},
+
+        {"app-page", {back, opening("option_connectApp")}},
+        {"pairing-number", {tapping("button_connectApp")}},
+        {"unpair-confirm",
+         {back, opening("option_connectApp"), calling("connectApp", "jump_disconnectApp_page")}},
+        {"pairing-result-waiting", {tapping("button_confirm")}},
+        {"pairing-result", {showPairing}},
+
+        {"location", {&Walk::restartAtMenu, opening("option_setLocation")}},
+        {"location-search", {tapping("button_search"), typing("bei")}},
+        {"location-result", {tapping("button_enter")}},
+        {"location-no-result", {tapping("button_deleteLocation")}},
+        {"location-search-again", {back}},
+
+        {"firmware-idle", {back, opening("option_updateFirmware")}},
+        {"firmware-found", {tapping("button_checkUpdate")}},
+        {"firmware-downloading", {tapping("button_update"), awaitProgress}},
+        {"firmware-retry", {cutOff, seeing("button_retry")}},
+        {"firmware-after-retry", {tapping("button_retry")}},
+        {"firmware-install",
+         {back, opening("option_updateFirmware"), tapping("button_checkUpdate"),
+          tapping("button_update"), seeing("label_installInfo")}},
+    };
 }

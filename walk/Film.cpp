@@ -17,7 +17,7 @@ void filmSlide(const QDir &folder)
     auto *timeLine = walk.screen()->findChild<QTimeLine *>();
     int frame = 0;
     const auto slide = [&](int fromX, int toX) {
-        walk.startSwipe(fromX, toX);
+        walk.swipe(fromX, toX);
         timeLine->setPaused(true);
         for (int time = 0; time <= timeLine->duration(); time += frameTime) {
             timeLine->setCurrentTime(time);

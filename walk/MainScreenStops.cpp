@@ -31,49 +31,26 @@ void holdScan(Walk &walk)
         animation->pause();
         animation->setCurrentTime(instantOfTheScan);
     }
-    walk.settle();
+}
+
+void freeze(Walk &walk)
+{
+    walk.setReadings(-5.5, 99.9);
 }
 } // namespace
 
 std::vector<Stop> mainScreenStops()
 {
     return {
-        {"main-temperature", [](Walk &walk) { walk.settle(); }},
-        {"main-pm25", toPreviousPage},
-        {"main-scanning", holdScan},
-        {"main-humidity",
-         [](Walk &walk) {
-             toNextPage(walk);
-             toNextPage(walk);
-         }},
-        {"main-negative",
-         [](Walk &walk) {
-             toPreviousPage(walk);
-             walk.setReadings(-5.5, 99.9);
-             walk.settle();
-         }},
-        {"history-24h", tapping({"button_history"})},
-        {"history-7days",
-         [](Walk &walk) {
-             walk.tapAt(tabOfSevenDays);
-             walk.settle();
-         }},
-        {"history-7days-touch",
-         [](Walk &walk) {
-             walk.tap(QStringLiteral("radio_day2"));
-             walk.pressAt(dotOnTheChart);
-             walk.settle();
-         }},
-        {"history-7days-other",
-         [](Walk &walk) {
-             walk.release();
-             tapping({"radio_day4"})(walk);
-         }},
-        {"main-no-reading",
-         [](Walk &walk) {
-             walk.tap(QStringLiteral("button_back"));
-             walk.breakSensor();
-             walk.settle();
-         }},
+        {"main-temperature", {}},
+        {"main-pm25", {toPreviousPage}},
+        {"main-scanning", {holdScan}},
+        {"main-humidity", {toNextPage, toNextPage}},
+        {"main-negative", {toPreviousPage, freeze}},
+        {"history-24h", {tapping("button_history")}},
+        {"history-7days", {tappingAt(tabOfSevenDays)}},
+        {"history-7days-touch", {tapping("radio_day2"), pressingAt(dotOnTheChart)}},
+        {"history-7days-other", {&Walk::release, tapping("radio_day4")}},
+        {"main-no-reading", {tapping("button_back"), &Walk::breakSensor}},
     };
 }

@@ -3,31 +3,39 @@
 #include "walk/Languages.h"
 #include "walk/LayoutCheck.h"
 
-Step tapping(const QStringList &objectNames)
+Step tapping(const QString &name)
 {
-    return [objectNames](Walk &walk) {
-        for (const QString &name : objectNames) {
-            walk.tap(name);
-            walk.settle();
-        }
-    };
+    return [name](Walk &walk) { walk.tap(name); };
 }
 
-Step backAndOpen(const QString &tile)
+Step tappingAt(const QPoint &position)
 {
-    return [tile](Walk &walk) {
-        walk.tap(QStringLiteral("button_back"));
-        walk.settle();
-        walk.openTile(tile);
-    };
+    return [position](Walk &walk) { walk.tapAt(position); };
+}
+
+Step pressingAt(const QPoint &position)
+{
+    return [position](Walk &walk) { walk.pressAt(position); };
+}
+
+Step typing(const QString &keys)
+{
+    return [keys](Walk &walk) { walk.type(keys); };
+}
+
+Step opening(const QString &tile)
+{
+    return [tile](Walk &walk) { walk.openTile(tile); };
+}
+
+Step seeing(const QString &name)
+{
+    return [name](Walk &walk) { walk.waitFor(name, [&] { return walk.sees(name); }); };
 }
 
 Step calling(const char *className, const char *slot)
 {
-    return [className, slot](Walk &walk) {
-        walk.call(className, slot);
-        walk.settle();
-    };
+    return [className, slot](Walk &walk) { walk.call(className, slot); };
 }
 
 QStringList walkThrough(const Language &language,
@@ -36,10 +44,14 @@ QStringList walkThrough(const Language &language,
     const InLanguage spoken(language);
     QStringList findings;
     Walk walk;
+    walk.settle();
     for (const auto &part :
          {mainScreenStops(), settingsStops(), connectivityStops(), languageStops()}) {
         for (const Stop &stop : part) {
-            stop.go(walk);
+            for (const Step &step : stop.way) {
+                step(walk);
+                walk.settle();
+            }
             look(stop.name, walk.picture());
             for (const QString &finding : layoutFindings(walk.screen()))
                 findings.append(stop.name + QStringLiteral(": ") + finding);

@@ -5,27 +5,29 @@
 
 #include <vector>
 
-/// How to get somewhere from the stop before.
+/// Something that a person does, or that is done to the device.
 using Step = std::function<void(Walk &)>;
 
-/// One stop of the walk. Its name is that of its picture, too: a stop more renames no other.
+/// One stop of the walk: its name, which is that of its picture, too, and the way there from the
+/// stop before. After each step the screen settles.
 struct Stop
 {
     QString name;
-    Step go;
+    std::vector<Step> way;
 };
 
-/// Walks in @p language from stop to stop, every page and every state that a
-/// person can reach, and hands each picture to @p look with the name of its stop. Returns what a
+/// Walks in @p language from stop to stop, every page and every state that a person can
+/// reach, and hands each picture to @p look with the name of its stop. Returns what a
 /// person would stumble over on the way, a line each.
 QStringList walkThrough(const Language &language,
                         const std::function<void(const QString &, const QImage &)> &look);
 
-/// Taps the widgets named @p objectNames one after the other, letting the screen settle after each.
-Step tapping(const QStringList &objectNames);
-
-/// Leaves the page by its back arrow and opens @p tile of the menu.
-Step backAndOpen(const QString &tile);
+Step tapping(const QString &name); ///< the widget of this object name
+Step tappingAt(const QPoint &position);
+Step pressingAt(const QPoint &position);
+Step typing(const QString &keys);
+Step opening(const QString &tile); ///< of the settings menu
+Step seeing(const QString &name);  ///< waits for the widget of this object name
 
 /// Calls a hook of a page, for states that no finger reaches yet.
 Step calling(const char *className, const char *slot);

@@ -159,15 +159,9 @@ void Walk::release()
     releaseAt(window.get(), finger);
 }
 
-void Walk::startSwipe(int fromX, int toX)
-{
-    drag(window.get(), QPoint(fromX, freeGroundY), QPoint(toX, freeGroundY));
-}
-
 void Walk::swipe(int fromX, int toX)
 {
-    startSwipe(fromX, toX);
-    settle();
+    drag(window.get(), QPoint(fromX, freeGroundY), QPoint(toX, freeGroundY));
 }
 
 void Walk::pressKey(QChar key)
@@ -187,7 +181,6 @@ void Walk::type(const QString &keys)
         pressKey(key);
         release();
     }
-    settle();
 }
 
 void Walk::scrollMenuToEnd()
@@ -205,14 +198,12 @@ void Walk::openTile(const QString &tile)
         settle();
     }
     tap(tile);
-    settle();
 }
 
 void Walk::restartAtMenu()
 {
     openWindow();
     tap("button_option");
-    settle();
 }
 
 void Walk::call(const char *className, const char *slot)
@@ -231,7 +222,6 @@ void Walk::rearrange(const QString &neighbour, const QStringList &hidden, const 
         page->findChild<QWidget *>(name)->hide();
     for (const QString &name : shown)
         page->findChild<QWidget *>(name)->show();
-    settle();
 }
 
 void Walk::setReadings(double celsius, double percent)

@@ -33,8 +33,6 @@ public:
     void release();
     /// Drags over free ground of the reading page from @p fromX to @p toX.
     void swipe(int fromX, int toX);
-    /// The same, without waiting for the slide that follows.
-    void startSwipe(int fromX, int toX);
 
     /// Types on the keyboard on the screen.
     void type(const QString &keys);
