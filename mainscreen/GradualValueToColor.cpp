@@ -38,7 +38,9 @@ void GradualValueToColor::parseHexToRGB(int color, int &r, int &g, int &b)
 
 QString GradualValueToColor::colorAt(float value)
 {
-    const float wanted = std::isnan(value) ? 0.0F : value;
+    // Far beyond the values whose channels an int still holds, and not yet without end.
+    constexpr float farthest = 1e30F;
+    const float wanted = std::isnan(value) ? 0.0F : std::clamp(value, -farthest, farthest);
     const auto [lower, upper] = findRangRgb(wanted, colors);
     // Kept[read-inserts-stops]: an end without a stop reads as black and becomes one.
     const RGB low = colors[lower];
