@@ -65,6 +65,15 @@ void collect(QWidget *root, QList<Placed> &found)
     }
 }
 
+bool reacts(const QWidget *widget)
+{
+    if (qobject_cast<const QScrollBar *>(widget))
+        return false;
+    return widget->isEnabled() &&
+           (qobject_cast<const QAbstractButton *>(widget) ||
+            qobject_cast<const QAbstractSlider *>(widget) || widget->inherits("OptionFrame"));
+}
+
 QString nameOf(const QWidget *widget)
 {
     return QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char(' ') +
@@ -109,15 +118,6 @@ QString cutText(const Placed &placed)
         .arg(placed.whole.height());
 }
 } // namespace
-
-bool reacts(const QWidget *widget)
-{
-    if (qobject_cast<const QScrollBar *>(widget))
-        return false;
-    return widget->isEnabled() &&
-           (qobject_cast<const QAbstractButton *>(widget) ||
-            qobject_cast<const QAbstractSlider *>(widget) || widget->inherits("OptionFrame"));
-}
 
 QStringList layoutFindings(QWidget *window)
 {

@@ -3,9 +3,6 @@
 #include <QStringList>
 #include <QWidget>
 
-/// Whether @p widget answers a finger.
-bool reacts(const QWidget *widget);
-
 /// What a person would stumble over on the screen as it stands: one line per finding.
 ///
 /// Texts that are cut off, widgets that react to a finger and overlap one another, and widgets that

@@ -4,7 +4,6 @@
 #include "simulator/SysfsText.h"
 #include "testkit/Environment.h"
 #include "testkit/Touch.h"
-#include "walk/LayoutCheck.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -86,32 +85,16 @@ QPoint Walk::centreOf(const QWidget *widget) const
     return view->mapTo(window.get(), view->mapFromScene(proxy->mapToScene(centre)));
 }
 
-QWidgetList Walk::allReachable(const std::function<bool(const QWidget *)> &wanted) const
-{
-    QWidgetList widgets = QApplication::allWidgets();
-    widgets.removeIf([&](const QWidget *widget) {
-        if (!widget->isVisible() || !wanted(widget))
-            return true;
-        const QWidget *hit = widgetUnder(window.get(), centreOf(widget));
-        return !hit || (hit != widget && !widget->isAncestorOf(hit));
-    });
-    return widgets;
-}
-
 QWidget *Walk::reachable(const std::function<bool(const QWidget *)> &wanted) const
 {
-    return allReachable(wanted).value(0);
-}
-
-QPoint Walk::targetNear(const QPoint &place) const
-{
-    QPoint nearest(0, 0);
-    for (const QWidget *widget : allReachable(reacts)) {
-        const QPoint centre = centreOf(widget);
-        if ((centre - place).manhattanLength() < (nearest - place).manhattanLength())
-            nearest = centre;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (!widget->isVisible() || !wanted(widget))
+            continue;
+        const QWidget *hit = widgetUnder(window.get(), centreOf(widget));
+        if (hit && (hit == widget || widget->isAncestorOf(hit)))
+            return widget;
     }
-    return nearest;
+    return nullptr;
 }
 
 QWidget *Walk::find(const QString &objectName) const

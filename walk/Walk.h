@@ -22,8 +22,6 @@ public:
     QWidget *find(const QString &objectName) const;
     bool sees(const QString &objectName) const;
     QString textOf(const QString &objectName) const;
-    /// The middle of what answers a finger next to @p place; a corner where nothing does.
-    QPoint targetNear(const QPoint &place) const;
 
     void tap(const QString &objectName);
     void tapAt(const QPoint &position);
@@ -72,7 +70,6 @@ private:
     void openWindow();
     void readSensorNow() const;
     QPoint centreOf(const QWidget *widget) const;
-    QWidgetList allReachable(const std::function<bool(const QWidget *)> &wanted) const;
     QWidget *reachable(const std::function<bool(const QWidget *)> &wanted) const;
     QImage look() const;
 
