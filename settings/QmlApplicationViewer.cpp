@@ -69,8 +69,7 @@ int QmlApplicationViewer::currentIndex() const
 
 QQuickItem *QmlApplicationViewer::wheel() const
 {
-    return rootObject() ? rootObject()->findChild<QQuickItem *>(QStringLiteral("wheel"))
-                                   : nullptr;
+    return rootObject() ? rootObject()->findChild<QQuickItem *>(QStringLiteral("wheel")) : nullptr;
 }
 
 void QmlApplicationViewer::hideEvent(QHideEvent *event)
