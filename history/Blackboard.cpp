@@ -14,12 +14,12 @@
 namespace {
 constexpr std::chrono::milliseconds revealTime{1000};
 constexpr int daysOfWeek = 7;
-// Of the ranges, whatever number of steps the axis is drawn in.
+// Kept[three-divisions]: of the ranges, whatever number of steps the axis is drawn in.
 constexpr int rangeDivisions = 3;
 // Where one rectangle costs more than the two markers in it, in pixels.
 constexpr int widestRepaint = 200;
 
-// Any number that is no quantity's counts as humidity.
+// Kept[else-humidity]: any number that is no quantity's counts as humidity.
 QString unitOf(int type)
 {
     const QuantityLook *look = lookOf(type);
@@ -75,6 +75,7 @@ bool Blackboard::is0oclock(int t)
     return LocalTime::secondOfDay(t) != 0;
 }
 
+// Kept[chart-hooks]: with reanimate1() and a time line that nothing starts.
 void Blackboard::isCurrentDay(int) {}
 
 float Blackboard::timeXToScreenX(float time, bool isLocal) const

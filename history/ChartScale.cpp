@@ -14,6 +14,7 @@ int truncated(double value)
 
 float Values::toValue(float y) const
 {
+    // Kept[mirrored-value]: about the middle of the plot.
     return scale == 0.0F ? 0.0F : (bottom + top - y - offset) / scale;
 }
 

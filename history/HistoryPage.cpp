@@ -65,9 +65,11 @@ HistoryPage::~HistoryPage() = default;
 
 void HistoryPage::showing(int newQuantity)
 {
+    // Kept[quantity-alone]: the chart goes on showing the one before.
     quantity = newQuantity;
 }
 
+// Kept[hiding-hook]: the counterpart of showing() has nothing to do.
 void HistoryPage::hiding() {}
 
 void HistoryPage::loadData()
@@ -117,6 +119,7 @@ void HistoryPage::present(int mode, float leftMargin)
 
 void HistoryPage::selectDay(int day)
 {
+    // Kept[day-of-unchecked]: the button that lost its mark calls first, the new one last.
     blackboard->day = day;
     present(Blackboard::sevenDays, marginOf7Days);
 }
@@ -177,6 +180,7 @@ void HistoryPage::onBlackboradTouch(float x, int time, float value, const QColor
 {
     qDebug() << "x:" << x << " time:" << time << " value:" << value;
     slideLabel->updateValue(value, unit, QStringLiteral("2016-07-11"), valueColor);
+    // Kept[read-out-unheld]: at the first dots it begins left of the screen.
     slideLabel->setGeometry(QRect(QPoint(int(x - readOutLead), 0), readOutSize));
     slideLabel->show();
     ui->frame_top->hide();

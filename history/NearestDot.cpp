@@ -6,6 +6,7 @@ NearestDot nearestDot(const QList<int> &times, const QList<int> &screenXs, Local
                       float x)
 {
     NearestDot result;
+    // Kept[single-reading]: one alone is drawn and cannot be touched.
     if (times.size() < 2 || screenXs.size() != times.size())
         return result;
     const auto indexOf = [&](qint64 time) {
@@ -42,6 +43,7 @@ NearestDot nearestDot(const QList<int> &times, const QList<int> &screenXs, Local
 
 int nearestTime(const QList<int> &times, float time)
 {
+    // Kept[times-in-float]: in steps of 128 s.
     if (times.size() < 2)
         return -1;
     if (float(times.first()) > time)

@@ -59,6 +59,8 @@ ValueRanges valueRangesOf(const QMap<int, float> &readings, qint64 todayStart, i
     ValueRanges ranges{nothing, nothing};
     for (auto reading = readings.cbegin(); reading != readings.cend(); ++reading) {
         extend(ranges.all, reading.value());
+        // Kept[both-midnights]: the one at the end of the day, too; and always of today, whichever
+        // day is shown.
         if (reading.key() >= todayStart && reading.key() <= todayStart + LocalTime::secondsPerDay)
             extend(ranges.today, reading.value());
     }

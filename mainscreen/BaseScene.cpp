@@ -17,6 +17,7 @@
 
 namespace {
 // The picture of the dashes stands lower than a line of text would.
+// Kept[fixed-levels]: no reading changes the text of a level.
 void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> companions)
 {
     if (reading != invalidReading) {

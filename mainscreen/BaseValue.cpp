@@ -44,6 +44,7 @@ void BaseValue::mousePressEvent(QMouseEvent *event)
 void BaseValue::mouseReleaseEvent(QMouseEvent *event)
 {
     releasePosition = event->position().toPoint();
+    // Kept[any-swipe]: a single pixel is enough, however slow and however steep.
     if (releasePosition.x() < pressPosition.x())
         emit signal_slideRight();
     else if (releasePosition.x() > pressPosition.x())
@@ -56,6 +57,7 @@ void BaseValue::showRow(const DigitRow &row)
     showGlyph(ui->label_hundreds, row.hundreds);
     showGlyph(ui->label_tens, row.tens);
     showGlyph(ui->label_units, row.units);
+    // Kept[unit-gone]: a later reading has none.
     if (row.hidesUnit)
         hideUnit();
     arrange(row.width);

@@ -63,6 +63,7 @@ QString GradualValueToColor::colorAt(float value)
 
 std::pair<float, float> findRangRgb(float value, const QMap<float, RGB> &stops)
 {
+    // Kept[ends-blend-across]: outside of the inner stops the ends are blended past all of them.
     constexpr std::pair<float, float> whole{0.0F, 1.0F};
     if (value <= 0.0F || value >= 1.0F || stops.size() < 2)
         return whole;

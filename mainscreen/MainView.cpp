@@ -103,7 +103,7 @@ void MainView::connect_init()
 void MainView::animation_init()
 {
     timeLine = new QTimeLine(int(slideTime.count()), this);
-    // Until the first slide, which brings its own.
+    // Kept[first-frames]: every slide brings frames of its own.
     timeLine->setFrameRange(0, 100);
     timeLine->setUpdateInterval(int(tick.count()));
     timeLine->setEasingCurve(QEasingCurve::Linear);
@@ -116,6 +116,7 @@ void MainView::slide(int pageCount)
     timeLine->start();
 }
 
+// Kept[slide-by-direction]: nothing of the product calls it.
 void MainView::slide_show(SlideDirection direction)
 {
     if (direction == SlideDirection::Right)
@@ -151,6 +152,7 @@ void MainView::choose_page(int page)
 {
     if (isSliding())
         return;
+    // Kept[tile-keeps-page]: the tiles, the caption and the page number stay those of before.
     if (const std::optional<int> pageCount = Strip::slideToChosen(position, page))
         slide(*pageCount);
 }

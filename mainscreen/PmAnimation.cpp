@@ -78,12 +78,14 @@ void PmAnimation::stopAnimation()
 
 void PmAnimation::changedScanning()
 {
+    // Kept[scan-counter]: it goes on where the last run was stopped.
     const bool forward = scanCounter % 2 != 0;
     bar->setPixmap(picture(forward ? QStringLiteral("scanning") : QStringLiteral("scanning2")));
     ++scanCounter;
 }
 
-// The labels that move repaint themselves; nothing is left to do.
+// Kept[animation-hooks]: the labels that move repaint themselves, and the animation has no end to
+// tell of.
 void PmAnimation::repaintUI(const QVariant &) {}
 
 void PmAnimation::restart()

@@ -67,6 +67,7 @@ void PmPage::ShowAnimation()
 {
     if (!busy)
         setScanning(true);
+    // Kept[tap-while-scanning]: also while the last one is still awaited.
     ownScheduler->start_PM25_samping();
 }
 

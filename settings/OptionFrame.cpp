@@ -32,6 +32,7 @@ void OptionFrame::mousePressEvent(QMouseEvent *event)
     holdTimer.start();
     if (event->button() == Qt::LeftButton)
         pressPosition = event->globalPosition().toPoint();
+    // Kept[tile-hands-on]: the frame below gets presses and releases as well.
     QFrame::mousePressEvent(event);
 }
 

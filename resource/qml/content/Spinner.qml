@@ -12,7 +12,7 @@ Image {
     property alias currentIndex: view.currentIndex
     readonly property alias moving: view.moving
     property real itemHeight: 50
-    // From one row to the next. Larger than a row: the places share a way that begins half a row
+    // Kept[row-pitch]: from one row to the next. Larger than a row: the places share a way that begins half a row
     // above the wheel and ends a whole row below it.
     readonly property real pitch: (height + itemHeight * 1.5) / (height / itemHeight)
     readonly property real middle: height / 2 + itemHeight / 4
