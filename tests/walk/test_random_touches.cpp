@@ -106,15 +106,14 @@ private:
     // Every other one is meant for something.
     QPoint place()
     {
-        QWidgetList parts = walk->screen()->findChildren<QWidget *>();
-        parts.removeIf([](const QWidget *part) {
-            return !part->isVisible() ||
-                   !(part->inherits("QAbstractButton") || part->inherits("OptionFrame"));
-        });
-        if (parts.isEmpty() || random.bounded(2) == 0)
-            return {random.bounded(854), random.bounded(480)};
-        const QWidget *part = parts[random.bounded(int(parts.size()))];
-        return part->mapTo(walk->screen(), part->rect().center());
+        QList<QPoint> places{{random.bounded(854), random.bounded(480)}};
+        for (const auto *part : walk->screen()->findChildren<QWidget *>()) {
+            const QPoint centre = part->mapTo(walk->screen(), part->rect().center());
+            if (part->isVisible() && walk->screen()->rect().contains(centre) &&
+                (part->inherits("QAbstractButton") || part->inherits("OptionFrame")))
+                places.append(centre);
+        }
+        return places[random.bounded(2) * random.bounded(int(places.size()))];
     }
 
     ZellDatabase database;
