@@ -42,14 +42,13 @@ QString saved(const QImage &image, const QFileInfo &file)
         return file.filePath() + QStringLiteral(" (cannot be written)");
     return file.filePath();
 }
-} // namespace
 
+// Dims marks and draws those pixels in red. The highest int where there is nothing to compare.
 int differentPixels(const QImage &picture, const QImage &reference, QImage *marks)
 {
     const QImage actual = picture.convertToFormat(QImage::Format_RGB32);
     const QImage expected = reference.convertToFormat(QImage::Format_RGB32);
-    if (marks != nullptr)
-        *marks = actual.copy();
+    *marks = actual.copy();
     if (actual.isNull() || actual.size() != expected.size())
         return std::numeric_limits<int>::max();
 
@@ -61,12 +60,12 @@ int differentPixels(const QImage &picture, const QImage &reference, QImage *mark
             const bool agrees =
                 here == there || (isAmong(here, expected, x, y) && isAmong(there, actual, x, y));
             different += agrees ? 0 : 1;
-            if (marks != nullptr)
-                marks->setPixel(x, y, agrees ? QColor(here).darker(300).rgb() : qRgb(255, 0, 0));
+            marks->setPixel(x, y, agrees ? QColor(here).darker(300).rgb() : qRgb(255, 0, 0));
         }
     }
     return different;
 }
+} // namespace
 
 QString pictureDifference(const QImage &picture, const QString &folder, const QString &fileName)
 {
@@ -82,8 +81,11 @@ QString pictureDifference(const QImage &picture, const QString &folder, const QS
         return {};
     const QDir output(QCoreApplication::applicationDirPath() + QStringLiteral("/pictures"));
     const QString name = reference.completeBaseName();
-    return QStringLiteral("%1 pixels differ from %2; see %3 and %4")
-        .arg(QString::number(different), reference.filePath(),
+    const bool comparable = different < std::numeric_limits<int>::max();
+    return QStringLiteral("%1 %2; see %3 and %4")
+        .arg(comparable ? QStringLiteral("%1 pixels differ from").arg(different)
+                        : QStringLiteral("there is no picture of this size:"),
+             reference.filePath(),
              saved(picture, QFileInfo(output, name + QStringLiteral("-actual.png"))),
              saved(marks, QFileInfo(output, name + QStringLiteral("-difference.png"))));
 }
