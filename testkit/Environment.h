@@ -17,10 +17,10 @@ public:
     Environment();
     ~Environment();
 
-    /// The simulated device of this process.
+    /// Returns the simulated device of this process.
     static simulator::DeviceRoot device();
 
-    /// The folder that stands for the root of the device ("<root>/dev", "<root>/sys" ...).
+    /// Returns the folder that stands for the root of the device ("<root>/dev", "<root>/sys" ...).
     static QString deviceRoot() { return device().path(); }
 
     /// Writes @p content to @p path below the device root, making the folders it needs.
@@ -29,7 +29,7 @@ public:
     /// Writes a shell script that runs @p commands, executable, to @p path below the device root.
     static void writeDeviceScript(const QString &path, const QByteArray &commands);
 
-    /// The content of the file at @p path, which need not exist.
+    /// Reads the file at @p path, which need not exist.
     static QByteArray contentOf(const QString &path);
 
 private:
@@ -37,7 +37,7 @@ private:
     QString previousDirectory;
 };
 
-/// The main function of a test program that runs @p TestClass in an Environment of its own.
+/// Writes the main function of a test program: runs @p TestClass in an Environment of its own.
 #define ZELL_TEST_MAIN(TestClass)                                                                  \
     int main(int argc, char *argv[])                                                               \
     {                                                                                              \

@@ -36,7 +36,7 @@ std::time_t time(std::time_t *result) noexcept
 {
     timespec now{};
     clock_gettime(CLOCK_REALTIME, &now);
-    if (result != nullptr)
+    if (result)
         *result = now.tv_sec;
     return now.tv_sec;
 }

@@ -10,7 +10,7 @@ QtMessageHandler previousHandler = nullptr;
 void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     collected.append(text);
-    if (type == QtFatalMsg && previousHandler != nullptr)
+    if (type == QtFatalMsg && previousHandler)
         previousHandler(type, context, text);
 }
 } // namespace

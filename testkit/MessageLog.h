@@ -12,7 +12,7 @@ public:
     MessageLog &operator=(const MessageLog &) = delete;
 
     QStringList lines() const;
-    /// How many lines contain @p text.
+    /// Counts the lines that contain @p text.
     int count(const QString &text) const;
     bool contains(const QString &text) const;
     void clear();

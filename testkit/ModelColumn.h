@@ -2,7 +2,7 @@
 
 #include <QAbstractItemModel>
 
-/// What @p model says for @p role, row by row.
+/// Lists what @p model says for @p role, row by row.
 inline QVariantList columnOf(const QAbstractItemModel &model, int role)
 {
     QVariantList values;

@@ -22,8 +22,8 @@ void pressAt(QWidget *window, const QPoint &position);
 void moveTo(QWidget *window, const QPoint &position);
 void releaseAt(QWidget *window, const QPoint &position);
 
-/// The one descendant of @p root named @p objectName that is visible, or null.
+/// Returns the one descendant of @p root named @p objectName that is visible, or null.
 QWidget *visibleChild(QWidget *root, const QString &objectName);
 
-/// The one button below @p root that is visible and says @p text, or null.
+/// Returns the one button below @p root that is visible and says @p text, or null.
 QAbstractButton *visibleButton(QWidget *root, const QString &text);

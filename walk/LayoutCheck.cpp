@@ -14,7 +14,7 @@
 namespace {
 constexpr int smallestTouch = 48;
 
-/// A widget and where it stands on the screen, cut to what its ancestors show of it.
+// A widget and where it stands on the screen, cut to what its ancestors show of it.
 struct Placed
 {
     QWidget *widget;
@@ -31,7 +31,7 @@ QRect seenPart(QWidget *widget, QWidget *root)
     return part & root->rect();
 }
 
-/// True where a finger, or the eye, meets @p widget and nothing that covers it.
+// A finger, or the eye, meets the widget and nothing that covers it.
 bool isOnTop(const Placed &placed, QWidget *root)
 {
     for (const QPoint point : {placed.seen.center(), placed.seen.topLeft() + QPoint(3, 3),

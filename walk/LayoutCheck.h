@@ -3,7 +3,7 @@
 #include <QStringList>
 #include <QWidget>
 
-/// What a person would stumble over on the screen as it stands: one line per finding.
+/// Lists what a person would stumble over on the screen as it stands, one line per finding.
 ///
 /// Texts that are cut off, widgets that react to a finger and overlap one another, and widgets that
 /// react but are under 48 px in one direction. Looks at what is visible below @p window, the

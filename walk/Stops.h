@@ -32,14 +32,14 @@ Step seeing(const QString &name);  ///< waits for the widget of this object name
 /// Calls a hook of a page, for states that no finger reaches yet.
 Step calling(const char *className, const char *slot);
 
-/// The stops on the main screen and in the history. Starts and ends on the main screen.
+/// Lists the stops on the main screen and in the history. Starts and ends on the main screen.
 std::vector<Stop> mainScreenStops();
 
-/// The settings menu and its own pages. Starts on the main screen and ends on a settings page.
+/// Lists those of the settings menu and its pages. Starts on the main screen, ends on a page of it.
 std::vector<Stop> settingsStops();
 
-/// Wi-Fi, phone app, location and firmware. Starts and ends on a page of the settings.
+/// Lists those of Wi-Fi, phone app, location and firmware. Starts and ends on a settings page.
 std::vector<Stop> connectivityStops();
 
-/// The language page: leaving it restarts the program, so the walk ends there.
+/// Lists those of the language page: leaving it restarts the program, so the walk ends there.
 std::vector<Stop> languageStops();

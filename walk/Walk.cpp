@@ -15,13 +15,15 @@
 #include <chrono>
 
 namespace {
-constexpr std::chrono::seconds patience{10};
-constexpr std::chrono::milliseconds lookInterval{60};
-constexpr std::chrono::milliseconds soon{400};
+using namespace std::chrono_literals;
+
+constexpr auto patience = 10s;
+constexpr auto lookInterval = 60ms;
+constexpr auto soon = 400ms;
 constexpr int looksOfStillness = 3;
 constexpr int freeGroundY = 330;
 
-/// The widget at @p position, those inside a graphics view included.
+// Those inside a graphics view included.
 QWidget *widgetUnder(QWidget *root, const QPoint &position)
 {
     QWidget *hit = root->childAt(position);
@@ -235,8 +237,7 @@ void Walk::setNetworks(const QStringList &names)
 
 void Walk::waitFor(const QString &what, const std::function<bool()> &condition) const
 {
-    const auto limit = std::chrono::milliseconds(patience).count();
-    if (!QTest::qWaitFor(condition, int(limit)))
+    if (!QTest::qWaitFor(condition, int(std::chrono::milliseconds(patience).count())))
         qFatal("waited in vain for %s", qPrintable(what));
 }
 

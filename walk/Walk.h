@@ -18,7 +18,7 @@ public:
     Walk();
     ~Walk();
 
-    /// The visible widget named @p objectName that a finger can reach.
+    /// Returns the visible widget named @p objectName that a finger can reach.
     QWidget *find(const QString &objectName) const;
     bool sees(const QString &objectName) const;
     QString textOf(const QString &objectName) const;
@@ -40,7 +40,7 @@ public:
     void scrollMenuToEnd();
     /// Opens @p tile of the settings menu, scrolling to it where it is out of sight.
     void openTile(const QString &tile);
-    /// A fresh window with the settings menu open: the way out of pages that have none.
+    /// Opens a fresh window at the settings menu: the way out of pages that have none.
     void restartAtMenu();
 
     /// Calls @p slot of the widget of class @p className that a finger can reach.
@@ -52,7 +52,7 @@ public:
     /// Gives the sensor new readings and lets the schedulers read them.
     void setReadings(double celsius, double percent);
     void breakSensor();
-    /// What the Wi-Fi scanner finds from now on.
+    /// Lets the wireless scanner find @p names from now on.
     void setNetworks(const QStringList &names);
 
     void waitFor(const QString &what, const std::function<bool()> &condition) const;
@@ -61,7 +61,7 @@ public:
 
     /// Takes the picture of this stop in a moment, while a step still keeps the program busy.
     void keepPictureSoon();
-    /// The picture of this stop: the kept one, or the screen as it stands.
+    /// Returns the picture of this stop: the kept one, or the screen as it stands.
     QImage picture();
 
     QWidget *screen() const;
