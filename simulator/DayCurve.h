@@ -16,7 +16,7 @@ struct DayCurve
     double peakHour = 0; ///< hour of the day at which it is highest
     double ripple = 0;   ///< how far the ripple goes up and down; one ripple takes 47 s
 
-    /// The value at @p seconds since midnight. The same @p seed gives the same curve.
+    /// Returns the value at @p seconds since midnight. The same @p seed gives the same curve.
     double at(double seconds, quint32 seed) const;
 };
 

@@ -11,7 +11,7 @@ namespace simulator {
 class DeviceRoot
 {
 public:
-    /// @p rootPath is an absolute path; create() makes it.
+    /// Takes @p rootPath, an absolute path; create() makes it.
     explicit DeviceRoot(const QString &rootPath);
 
     QString path() const { return root; }

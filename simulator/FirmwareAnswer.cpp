@@ -16,7 +16,7 @@ struct RequestLine
     QByteArray path;
 };
 
-/// Empty where @p request is no HTTP request.
+// Empty where the request is no HTTP.
 RequestLine requestLine(const QByteArray &request)
 {
     const QList<QByteArray> words = request.first(request.indexOf("\r\n")).split(' ');

@@ -36,21 +36,21 @@ inline constexpr auto firmwarePath = "/zell/ZellQt-1.1.pkg";
 /// Size of the package in bytes; at the server's pace it takes two and a half seconds.
 inline constexpr qint64 firmwareSize = 400 * kibibyte;
 
-/// The answer of the server in the state @p fault to a GET of the package.
+/// Gives the answer with @p fault to a GET of the package.
 FirmwareAnswer firmwareAnswer(FirmwareFault fault);
 
-/// An answer of status @p status ("404 Not Found") and nothing else.
+/// Gives an answer of status @p status ("404 Not Found") and nothing else.
 FirmwareAnswer statusAnswer(const QByteArray &status);
 
-/// The answer to the request head @p request, which ends with the blank line: @p package for a GET
-/// of firmwarePath, its head alone for a HEAD, 404 for another path, 405 for another method, 400
-/// for what is no HTTP.
+/// Gives the answer to the request head @p request, which ends with the blank line: @p package for
+/// a GET of firmwarePath, its head alone for a HEAD, 404 for another path, 405 for another method,
+/// 400 for what is no HTTP.
 FirmwareAnswer answerTo(const QByteArray &request, const FirmwareAnswer &package);
 
 /// Tells whether @p request asks for the package itself, so that answering it uses up an answer.
 bool asksForFirmware(const QByteArray &request);
 
-/// @p size bytes of the package (or of an endless body) from @p offset on.
+/// Returns @p size bytes of the package (or of an endless body) from @p offset on.
 QByteArray firmwareBytes(qint64 offset, qint64 size);
 
 } // namespace simulator

@@ -17,11 +17,11 @@ public:
     /// empty.
     explicit FirmwareServer(const QList<FirmwareAnswer> &answerCycle, QObject *parent = nullptr);
 
-    /// False where no port could be had; errorString() says why.
+    /// Starts to serve. False where no port could be had; errorString() says why.
     bool listen();
     QString errorString() const;
 
-    /// Address of the package. Valid after listen().
+    /// Returns the address of the package. Valid after listen().
     QString url() const;
 
     /// Cuts off every client.

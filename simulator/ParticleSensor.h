@@ -29,7 +29,7 @@ public:
         std::chrono::milliseconds unpluggedFor{3000};
     };
 
-    /// @p particlesNow gives the concentration in µg/m³.
+    /// Asks @p particlesNow for the concentration, in µg/m³.
     ParticleSensor(const Scenario &scenario, Settings sensorSettings,
                    std::function<double()> particlesNow, QObject *parent = nullptr);
 

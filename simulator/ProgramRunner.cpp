@@ -15,7 +15,7 @@ constexpr auto graceTime = 3s;
 constexpr auto sweepPeriod = 10ms;
 constexpr int killedBySignal = 128;
 
-/// Runs in the new process before the command does.
+// Runs in the new process before the command does.
 void prepareChild()
 {
     ::setpgid(0, 0);
@@ -23,7 +23,7 @@ void prepareChild()
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
 }
 
-/// Children of this process: the command, and what its own dead children left behind.
+// Children of this process: the command, and what its own dead children left behind.
 QList<pid_t> childProcesses()
 {
     QList<pid_t> pids;

@@ -15,7 +15,7 @@ class ProgramRunner : public QObject
 {
     Q_OBJECT
 public:
-    /// @p command is the program and its arguments, not empty. It runs in the current working
+    /// Takes the program and its arguments in @p command, not empty. It runs in the current working
     /// directory, with the standard input and outputs of this process.
     ProgramRunner(QStringList command, const QProcessEnvironment &environment,
                   QObject *parent = nullptr);

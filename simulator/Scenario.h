@@ -30,14 +30,14 @@ struct Scenario
     QList<FirmwareFault> firmware{FirmwareFault::None};
 };
 
-/// Every scenario, the default first.
+/// Lists every scenario, the default first.
 const QList<Scenario> &scenarios();
 
-/// The scenario called @p name, or nothing. "bad-firmware:FAULT" is that scenario with the one
-/// fault for every request.
+/// Finds the scenario called @p name, or nothing. "bad-firmware:FAULT" is that scenario with the
+/// one fault for every request.
 std::optional<Scenario> findScenario(const QString &name);
 
-/// Names of the firmware faults, for "bad-firmware:FAULT".
+/// Lists the names of the firmware faults, for "bad-firmware:FAULT".
 QStringList firmwareFaultNames();
 
 } // namespace simulator

@@ -16,8 +16,8 @@ QByteArray noise(qsizetype size, QRandomGenerator &random)
     return bytes;
 }
 
-/// Of each of the 14 groups of four bytes the first two count once, the third 256 times and the
-/// fourth not at all.
+// Of each of the 14 groups of four bytes the first two count once, the third 256 times and the
+// fourth not at all.
 quint16 sensorChecksum(const QByteArray &frame)
 {
     const auto *byte = reinterpret_cast<const uchar *>(frame.constData());

@@ -12,11 +12,11 @@ enum class FrameFault { None, BadChecksum, BadHeader, Split, Merged, Short, Long
 /// Length of a frame in bytes.
 inline constexpr qsizetype frameSize = 60;
 
-/// A good frame: "Z" and 0xA5, @p particles (µg/m³) in 32 bits little-endian at offset 16, the
-/// checksum high byte first at offset 58. The bytes between are drawn from @p random.
+/// Makes a good frame: "Z" and 0xA5, @p particles (µg/m³) in 32 bits little-endian at offset 16,
+/// the checksum high byte first at offset 58. The bytes between are drawn from @p random.
 QByteArray sensorFrame(quint32 particles, QRandomGenerator &random);
 
-/// What travels on the line for one reading, as bursts with a pause between them.
+/// Makes what travels on the line for one reading, as bursts with a pause between them.
 QList<QByteArray> sensorBursts(FrameFault fault, quint32 particles, QRandomGenerator &random);
 
 } // namespace simulator

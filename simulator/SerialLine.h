@@ -10,7 +10,7 @@ namespace simulator {
 class SerialLine
 {
 public:
-    /// @p link is where the serial device appears while it is plugged in.
+    /// Takes where the serial device appears, @p link, while it is plugged in.
     explicit SerialLine(const QString &link);
     ~SerialLine();
     SerialLine(const SerialLine &) = delete;

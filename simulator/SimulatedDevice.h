@@ -33,10 +33,10 @@ public:
 
     const DeviceRoot &deviceRoot() const { return root; }
 
-    /// What the program finds the device by.
+    /// Returns what the program finds the device by.
     QProcessEnvironment environment() const;
 
-    /// The same as lines for a shell.
+    /// Writes the same as lines for a shell.
     QString environmentLines() const;
 
 private:
