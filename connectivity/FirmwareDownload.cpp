@@ -15,3 +15,9 @@ qint64 downloadPercent(qint64 received, qint64 total)
     // Kept[negative-percent]: a total that is not known gives one.
     return total == 0 ? 0 : received * 100 / total;
 }
+
+bool isSoundLength(const QByteArray &header)
+{
+    bool isNumber = false;
+    return header.isEmpty() || (header.toLongLong(&isNumber) >= 0 && isNumber);
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QUrl>
 #include <chrono>
 
@@ -22,3 +23,7 @@ QUrl firmwareAddress();
 /// Works out @p received of @p total bytes in per cent, truncated. A total of -1 (not known) gives
 /// a negative figure, a total of 0 gives 0.
 qint64 downloadPercent(qint64 received, qint64 total);
+
+/// Tells whether @p header, the length that a server announces for a body, is a whole number from 0
+/// on, or empty: not announced.
+bool isSoundLength(const QByteArray &header);

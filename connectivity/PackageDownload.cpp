@@ -24,11 +24,18 @@ PackageDownload::PackageDownload(const QUrl &address, const DownloadLimits &limi
     request.setMaximumRedirectsAllowed(redirectsFollowed);
     // A packed answer would be unpacked in memory, and its progress has no total.
     request.setRawHeader("Accept-Encoding", "identity");
-    request.setTransferTimeout(int(limits.silence.count()));
     auto *manager = new QNetworkAccessManager(this);
     connect(manager, &QNetworkAccessManager::finished, this, &PackageDownload::finished);
     QNetworkReply *reply = manager->get(request);
     connect(reply, &QNetworkReply::downloadProgress, this, &PackageDownload::progressed);
     new BodyDrain(reply, limits.size);
     QTimer::singleShot(limits.whole, reply, &QNetworkReply::abort);
+    // The request's own time-out does not outlive a redirect.
+    auto *silence = new QTimer(reply);
+    const auto heard = [silence, limits] { silence->start(limits.silence); };
+    connect(silence, &QTimer::timeout, reply, &QNetworkReply::abort);
+    connect(reply, &QNetworkReply::redirected, silence, heard);
+    connect(reply, &QNetworkReply::metaDataChanged, silence, heard);
+    connect(reply, &QNetworkReply::readyRead, silence, heard);
+    heard();
 }

@@ -119,7 +119,9 @@ void updateFirmware::finish_reply(QNetworkReply *reply)
              << reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QString result = QString::fromLatin1(BodyDrain::headOf(reply));
     qDebug() << "result is " << result;
-    if (reply->error() != QNetworkReply::NoError) {
+    // Where the length makes no sense, the end of the body is anywhere.
+    if (reply->error() != QNetworkReply::NoError ||
+        !isSoundLength(reply->rawHeader("Content-Length"))) {
         qDebug() << "Error comes...";
         jump_retryFirmware_page();
     } else {

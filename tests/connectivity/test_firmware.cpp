@@ -29,6 +29,11 @@ QByteArray ok(const QByteArray &body, qint64 length)
            body;
 }
 
+QByteArray lengthIs(const QByteArray &length)
+{
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + length + "\r\n\r\nabcdef";
+}
+
 FirmwareAnswer withoutEnd()
 {
     return {
@@ -69,34 +74,43 @@ private slots:
 
     void everyServerEndsOnAPageWithAWayBack_data()
     {
-        const QByteArray circle = "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " +
-                                  QByteArray(simulator::firmwarePath) + "\r\n\r\n";
+        const QByteArray moved = "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " +
+                                 QByteArray(simulator::firmwarePath) + "\r\n\r\n";
+        const FirmwareAnswer silent{.head = {}, .ending = stalls};
+        const FirmwareAnswer fallsSilent{.head = ok("abc", 6), .ending = stalls};
         const QByteArray missing = "HTTP/1.1 404 No\r\nContent-Length: 2\r\n\r\nno";
         const QByteArray longHead = "HTTP/1.1 200 OK\r\nX: " + QByteArray(1 << 20, 'x');
         const FirmwareAnswer drops{
             .head = ok("a", -1), .bodySize = -1, .chunkSize = 1, .pause = 10ms};
         addRows<Server>({
-            {"whole package", {.head = ok("abcdef", 6), .ending = stalls}, true},
-            {"no length, closes", {.head = ok("abcdef", -1), .ending = closes}, true},
-            {"empty package", {.head = ok("", 0), .ending = stalls}, true},
-            {"moves in circles", {.head = circle, .ending = closes}},
-            {"not found", {.head = missing, .ending = stalls}},
-            {"closes early", {.head = ok("abc", 6), .ending = closes}},
-            {"no HTTP", {.head = QByteArray("\0\xff\n\n", 4), .ending = closes}},
-            {"silent", {.head = {}, .ending = stalls}},
-            {"falls silent", {.head = ok("abc", 6), .ending = stalls}},
-            {"head without end", {.head = longHead, .ending = stalls}},
-            {"a byte now and then", drops},
-            {"body without end", withoutEnd()},
+            {"whole package", {{.head = ok("abcdef", 6), .ending = stalls}}, true},
+            {"no length, closes", {{.head = ok("abcdef", -1), .ending = closes}}, true},
+            {"empty package", {{.head = ok("", 0), .ending = stalls}}, true},
+            {"length below zero", {{.head = lengthIs("-6"), .ending = closes}}},
+            {"length no number", {{.head = lengthIs("six"), .ending = closes}}},
+            {"length beyond all numbers",
+             {{.head = lengthIs(QByteArray(30, '9')), .ending = closes}}},
+            {"moves in circles", {{.head = moved, .ending = closes}}},
+            {"moved, silent", {{.head = moved, .ending = closes}, silent}},
+            {"moved, falls silent", {{.head = moved, .ending = closes}, fallsSilent}},
+            {"moved, silent on the same line", {{.head = moved, .ending = stalls}}},
+            {"not found", {{.head = missing, .ending = stalls}}},
+            {"closes early", {{.head = ok("abc", 6), .ending = closes}}},
+            {"no HTTP", {{.head = QByteArray("\0\xff\n\n", 4), .ending = closes}}},
+            {"silent", {silent}},
+            {"falls silent", {fallsSilent}},
+            {"head without end", {{.head = longHead, .ending = stalls}}},
+            {"a byte now and then", {drops}},
+            {"body without end", {withoutEnd()}},
         });
     }
 
     void everyServerEndsOnAPageWithAWayBack()
     {
         QFETCH(Server, row);
-        FirmwareServer server({row.answer});
+        FirmwareServer server(row.answers);
         QSignalSpy left(page.get(), &updateFirmware::signal_backDefaultPage);
-        if (row.answer.chunkSize == 1)
+        if (row.answers.last().chunkSize == 1)
             page->setLimits({300ms, 2s, 1 << 20});
         const qint64 before = residentBytes();
         startDownload(server);
@@ -185,7 +199,7 @@ private:
     struct Server
     {
         const char *name;
-        FirmwareAnswer answer;
+        QList<FirmwareAnswer> answers;
         bool installs = false;
     };
 
