@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <chrono>
 
 class QIODevice;
 
@@ -14,9 +15,9 @@ QString scanFilePath(const QString &directory);
 /// executed, whatever characters it holds.
 QString scanCommand(const QString &directory);
 
-/// Runs @p command and waits for it. After 20 seconds it is ended; what it wrote until then, or its
+/// Runs @p command and waits for it. At @p limit it is ended; what it wrote until then, or its
 /// first 8 MB, stay as the result.
-void runScan(const QString &command);
+void runScan(const QString &command, std::chrono::milliseconds limit = std::chrono::seconds(20));
 
 /// Reads the names in @p scan, in its order, with duplicates and hidden (empty) ones: every line
 /// from its character 27 on without the last one. A line of another shape is cut in the same way.
