@@ -5,6 +5,7 @@
 #include "testkit/TableRows.h"
 
 #include <QDeadlineTimer>
+#include <QProcess>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,6 +21,13 @@ class TestDevice : public QObject
     {
         const char *name, *text;
         CommandEnd end;
+    };
+
+    struct Light
+    {
+        const char *name;
+        int level;
+        const char *coarse, *fine;
     };
 
 private slots:
@@ -59,6 +67,39 @@ private slots:
         QCOMPARE(runCommand("sleep 0.3; echo done > note", 50ms, AtLimit::LeaveRunning),
                  CommandEnd::HitLimit);
         QTRY_COMPARE(Environment::contentOf("note"), "done\n");
+    }
+
+    void lightKeepsItsRange_data()
+    {
+        addRows<Light>({{"darkest, not off", 7, "1\n", "1\n"},
+                        {"half way", 132, "4\n", "512\n"},
+                        {"brightest", 257, "7\n", "1023\n"},
+                        {"below", 0, "1\n", "1\n"},
+                        {"above", 300, "7\n", "1023\n"}});
+    }
+
+    void lightKeepsItsRange()
+    {
+        QFETCH(Light, row);
+        const QString lights("/sys/class/backlight/");
+        Environment::writeDeviceFile(lights + "coarse/max_brightness", "7\n");
+        Environment::writeDeviceFile(lights + "fine/max_brightness", "1023\n");
+        const QString command = QString("%1/baklight %2").arg(ZELL_DEPLOYED).arg(row.level);
+        QCOMPARE(runCommand(command, 5s), CommandEnd::Succeeded);
+        const QString folder = Environment::deviceRoot() + lights;
+        QCOMPARE(Environment::contentOf(folder + "coarse/brightness"), row.coarse);
+        QCOMPARE(Environment::contentOf(folder + "fine/brightness"), row.fine);
+    }
+
+    void restartEndsTheServedProgram()
+    {
+        QProcess program;
+        program.start("sleep", {"60"});
+        QVERIFY(program.waitForStarted());
+        qputenv("SYSTEMD_EXEC_PID", QByteArray::number(program.processId()));
+        QCOMPARE(runCommand(ZELL_DEPLOYED "/restartZellQt.sh", 5s), CommandEnd::Succeeded);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitCode(), SIGTERM);
     }
 
     void rootIsPutInFront()
