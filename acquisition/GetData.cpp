@@ -2,6 +2,7 @@
 
 #include "acquisition/PM25Uart.h"
 #include "device/DevicePath.h"
+#include "device/RegularFile.h"
 #include "store/ZellDatabase.h"
 
 #include <QDebug>
@@ -19,6 +20,8 @@ using namespace std::chrono_literals;
 constexpr auto refreshInterval = 1s;
 constexpr std::chrono::milliseconds samplingInterval{PM25_SAMPING_INTERVAL};
 constexpr std::chrono::milliseconds samplingDuration{PM25_SAMPING_DURATION};
+// A sysfs file never holds more than a page.
+constexpr qint64 longestFile = 4096;
 constexpr int pmReadingsPerRow = 10000;
 constexpr int pmBenchRange = 500;
 
@@ -106,7 +109,7 @@ TempHumReading GetData::readTempHum()
 {
     const QString path =
         devicePath(QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity"));
-    const TempHumReading reading = parseTempHum(readSensorFile(path));
+    const TempHumReading reading = parseTempHum(readRegularFile(path, longestFile));
     const bool isFaulty =
         reading.temperature == invalidReading || reading.humidity == invalidReading;
     if (isFaulty && !isSensorFaultTold)

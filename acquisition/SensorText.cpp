@@ -2,9 +2,6 @@
 
 #include "shell/Global_cfg.h"
 
-#include <QFile>
-#include <QFileInfo>
-
 namespace {
 constexpr int temperatureField = 7;
 constexpr int humidityField = 25;
@@ -13,8 +10,6 @@ constexpr int lowestTemperature = -40;
 constexpr int highestTemperature = 100;
 constexpr int highestHumidity = 100;
 constexpr int highestAverage = 2000;
-// A sysfs file never holds more than a page.
-constexpr qint64 longestFile = 4096;
 
 // The whole units of the field at position. valid decides on a number that is there.
 int readField(const QString &text, int position, int (*valid)(int))
@@ -56,14 +51,4 @@ TempHumReading parseTempHum(const QByteArray &text)
     const bool isCut = characters.size() < temperatureField + fieldLength;
     return {isCut ? invalidReading : readField(characters, temperatureField, validTemperature),
             readField(characters, humidityField, validHumidity)};
-}
-
-QByteArray readSensorFile(const QString &path)
-{
-    if (!QFileInfo(path).isFile())
-        return {};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return {};
-    return file.read(longestFile);
 }

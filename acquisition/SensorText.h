@@ -29,7 +29,3 @@ int validAverage(int value);
 /// thousandths of a per cent in characters 25 to 29. A field that is missing or no number, and a
 /// temperature cut short, gives invalidReading, the other still counts.
 TempHumReading parseTempHum(const QByteArray &text);
-
-/// Reads the sensor file @p path, 4 KiB at the most. Empty where it cannot be read or is no regular
-/// file: a pipe in its place never makes this wait.
-QByteArray readSensorFile(const QString &path);
