@@ -3,6 +3,7 @@
 #include "acquisition/GetData.h"
 #include "acquisition/SharedPort.h"
 #include "device/DevicePath.h"
+#include "device/RegularFile.h"
 #include "shell/Global_cfg.h"
 
 #include <QDebug>
@@ -89,11 +90,15 @@ void PM25Uart::power_off()
 void PM25Uart::switchSupply(char state, const char *message)
 {
     QFile file(devicePath(QStringLiteral("/dev/Boost_En")));
-    if (!file.open(QIODevice::ReadWrite))
-        return;
-    file.putChar(state);
-    file.close();
-    qDebug() << message;
+    const bool isThere =
+        openExisting(file, QIODevice::ReadWrite | QIODevice::Unbuffered, FileKind::RegularOrDevice);
+    if (isThere) {
+        file.putChar(state);
+        qDebug() << message;
+    } else if (!isSupplyFaultTold) {
+        qDebug() << "no supply switch" << file.fileName();
+    }
+    isSupplyFaultTold = !isThere;
 }
 
 void PM25Uart::rxDataReady_slot()

@@ -29,7 +29,8 @@ public:
     /// nothing is.
     void closeUart();
 
-    /// Write "1" and "0" to the sensor's supply switch. Silent where it cannot be opened.
+    /// Write "1" and "0" to the sensor's supply switch. One debug line where there is none, as long
+    /// as it lasts.
     void power_on();
     void power_off();
 
@@ -48,6 +49,8 @@ private:
     void greet();
     void leavePort();
     void switchSupply(char state, const char *message);
+
+    inline static bool isSupplyFaultTold = false;
 
     QPointer<SharedPort> port;
     QElapsedTimer elapsed;

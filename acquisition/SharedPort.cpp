@@ -4,7 +4,26 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QFileInfo>
+#include <algorithm>
+#include <iterator>
 #include <utility>
+
+namespace {
+// Whether QSerialPort would read for the lock file of port what is none: a pipe holds it for ever.
+// It takes one of these folders.
+bool hasBrokenLock(const QSerialPort &port)
+{
+    const QString name =
+        QStringLiteral("/LCK..") + port.portName().replace(QLatin1Char('/'), QLatin1Char('_'));
+    const char *folders[] = {"/var/lock", "/etc/locks", "/var/spool/locks",  "/var/spool/uucp",
+                             "/tmp",      "/var/tmp",   "/var/lock/lockdev", "/run/lock"};
+    return std::any_of(std::cbegin(folders), std::cend(folders), [&](const char *folder) {
+        const QFileInfo lock(QLatin1String(folder) + name);
+        return lock.exists() && !lock.isFile();
+    });
+}
+} // namespace
 
 SharedPort &SharedPort::named(const QString &name)
 {
@@ -43,6 +62,10 @@ SharedPort::SharedPort(const QString &name, QObject *parent)
 
 bool SharedPort::join()
 {
+    if (!device.isOpen() && hasBrokenLock(device)) {
+        qDebug() << "device failed to open: its lock is no file";
+        return false;
+    }
     if (!device.isOpen() && !device.open(QIODevice::ReadWrite)) {
         qDebug() << "device failed to open:" << device.errorString();
         return false;

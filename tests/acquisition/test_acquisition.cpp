@@ -69,8 +69,8 @@ private slots:
         database = std::make_unique<ZellDatabase>();
         zelldatabase = database.get();
         GetData::iTempHumNum = GetData::iTotalTempValue = 0;
-        QFile::remove(sensor);
         replaceFile(sensor, "temp = 23456, humidity = 45678\n");
+        replaceFile(supply, "0");
     }
 
     void fields_data()
@@ -127,6 +127,26 @@ private slots:
             tick(*scheduler);
         QCOMPARE(told(temperature), QList<int>{9999});
         QCOMPARE(log.lines().size(), 1);
+    }
+
+    void faultySupply_data()
+    {
+        addRows<Fault>({{"missing", [](const QString &) {}},
+                        {"pipe", [](const QString &path) { mkfifo(qPrintable(path), 0600); }}});
+    }
+
+    void faultySupply()
+    {
+        QFETCH(Fault, row);
+        PM25Uart uart;
+        uart.power_on(); // a fault is told afresh after a good one
+        QVERIFY(QFile::remove(supply));
+        row.make(supply);
+        const MessageLog log;
+        uart.power_on();
+        uart.power_off();
+        QCOMPARE(log.lines().size(), 1);
+        QVERIFY(!QFileInfo(supply).isFile());
     }
 
     void everySchedulerTellsItsListeners()
@@ -258,7 +278,6 @@ private slots:
 
     void lineComesAndGoes()
     {
-        replaceFile(supply, "0");
         QFile supplyFile(supply);
         QVERIFY(supplyFile.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
         const MessageLog log;
@@ -266,6 +285,12 @@ private slots:
         QVERIFY(!uart->openUart("ttyUSB0"));
         QVERIFY(log.contains("device failed to open: \""));
         auto line = std::make_unique<PseudoTerminal>();
+        const QByteArray lock =
+            "/var/lock/LCK.." + Environment::device().serialDevice().replace('/', '_').toUtf8();
+        QCOMPARE(mkfifo(lock, 0600), 0);
+        QVERIFY(!uart->openUart("ttyUSB0"));
+        QVERIFY(log.contains("device failed to open: its lock is no file"));
+        QVERIFY(QFile::remove(lock));
         QVERIFY(uart->openUart("ttyUSB0"));
         QVERIFY(uart->openUart("ttyUSB0")); // the first opening must let go of the line
         QByteArray greeting;
