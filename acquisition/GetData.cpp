@@ -2,7 +2,6 @@
 
 #include "acquisition/PM25Uart.h"
 #include "device/DevicePath.h"
-#include "device/RegularFile.h"
 #include "store/ZellDatabase.h"
 
 #include <QDebug>
@@ -20,8 +19,6 @@ using namespace std::chrono_literals;
 constexpr auto refreshInterval = 1s;
 constexpr std::chrono::milliseconds samplingInterval{PM25_SAMPING_INTERVAL};
 constexpr std::chrono::milliseconds samplingDuration{PM25_SAMPING_DURATION};
-// A sysfs file never holds more than a page.
-constexpr qint64 longestFile = 4096;
 constexpr int pmReadingsPerRow = 10000;
 constexpr int pmBenchRange = 500;
 
@@ -109,7 +106,7 @@ TempHumReading GetData::readTempHum()
 {
     const QString path =
         devicePath(QStringLiteral("/sys/devices/platform/sun5i-i2c.2/i2c-2/2-0044/temp_humidity"));
-    const TempHumReading reading = parseTempHum(readRegularFile(path, longestFile));
+    const TempHumReading reading = parseTempHum(sensor.read(path));
     const bool isFaulty =
         reading.temperature == invalidReading || reading.humidity == invalidReading;
     if (isFaulty && !isSensorFaultTold)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "acquisition/SensorText.h"
+#include "device/SensorReader.h"
 #include "shell/Global_cfg.h"
 
 #include <QList>
@@ -86,6 +87,7 @@ private:
     QTimer *addTimer(const char *name, void (GetData::*slot)());
 
     inline static QList<GetData *> all;
+    inline static SensorReader sensor;
     inline static bool isSensorFaultTold = false;
 
     bool networkAvailable = true;

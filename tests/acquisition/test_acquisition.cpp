@@ -7,6 +7,7 @@
 #include "testkit/PseudoTerminal.h"
 #include "testkit/TableRows.h"
 
+#include <QDeadlineTimer>
 #include <QSerialPort>
 #include <QSignalSpy>
 #include <QSqlQuery>
@@ -29,6 +30,12 @@ class TestAcquisition : public QObject
     {
         const char *name;
         void (*make)(const QString &path);
+    };
+    struct Driver
+    {
+        const char *name;
+        QByteArray milliseconds;
+        int temperature;
     };
 
     const QString sensor = Environment::device().climateFile();
@@ -127,6 +134,28 @@ private slots:
             tick(*scheduler);
         QCOMPARE(told(temperature), QList<int>{9999});
         QCOMPARE(log.lines().size(), 1);
+    }
+
+    void slowSensor_data()
+    {
+        addRows<Driver>({{"slow", "20", 23}, {"very slow", "55", 23}, {"hanging", "900", 9999}});
+    }
+
+    void slowSensor()
+    {
+        QFETCH(Driver, row);
+        GetData schedulers[4];
+        const QSignalSpy temperature(&schedulers[0], &GetData::signal_updateTempData);
+        qputenv("ZELL_SLOW_FILE", "temp_humidity");
+        qputenv("ZELL_SLOW_MS", row.milliseconds);
+        const QDeadlineTimer standstill(500);
+        for (int i = 0; i < GETDATA_MAX_OBJECTS; ++i)
+            tick(schedulers[i % 4]);
+        qunsetenv("ZELL_SLOW_MS");
+        QVERIFY(!standstill.hasExpired());
+        QCOMPARE(told(temperature), QList<int>{row.temperature});
+        replaceFile(sensor, "temp = 21000, humidity = 45678\n");
+        QTRY_COMPARE((tick(schedulers[0]), told(temperature).last()), 21);
     }
 
     void faultySupply_data()
