@@ -95,9 +95,15 @@ QString DeviceRoot::restartRequest() const
     return requestFolder() + QStringLiteral("/restart");
 }
 
-bool DeviceRoot::create(const QStringList &networks, QString *problem) const
+QString DeviceRoot::storeFault() const
 {
-    for (const QString &leftover : {serialDevice(), climateFile(), lightFile(), restartRequest()})
+    return root + QStringLiteral("/faults/store");
+}
+
+bool DeviceRoot::create(const QStringList &networks, QString *problem, bool scanHangs) const
+{
+    for (const QString &leftover :
+         {serialDevice(), climateFile(), lightFile(), restartRequest(), storeFault()})
         QFile::remove(leftover);
 
     const QByteArray head = "#!/bin/sh\n";
@@ -112,15 +118,15 @@ bool DeviceRoot::create(const QStringList &networks, QString *problem) const
                     head + "# Asks the simulator to stop the program and start it again.\n" +
                         ": > " + quotedForShell(restartRequest()) + '\n',
                     true) &&
-        setNetworks(networks);
+        setNetworks(networks, scanHangs);
     if (!done)
         *problem = QStringLiteral("cannot make the device root %1").arg(root);
     return done;
 }
 
-bool DeviceRoot::setNetworks(const QStringList &networks) const
+bool DeviceRoot::setNetworks(const QStringList &networks, bool scanHangs) const
 {
-    return replaceFile(programFolder() + "/iwlist", scannerScript(networks), true);
+    return replaceFile(programFolder() + "/iwlist", scannerScript(networks, scanHangs), true);
 }
 
 } // namespace simulator

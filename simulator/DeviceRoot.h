@@ -23,13 +23,14 @@ public:
     QString programFolder() const; ///< holds `iwlist`; comes first in PATH
     QString requestFolder() const; ///< holds the restart request
     QString restartRequest() const;
+    QString storeFault() const; ///< there while the store cannot be written
 
     /// Makes the folders and scripts, clears the logs and requests of an earlier run. False, and
     /// the reason in @p problem, where that is not possible.
-    bool create(const QStringList &networks, QString *problem) const;
+    bool create(const QStringList &networks, QString *problem, bool scanHangs = false) const;
 
     /// Lets the wireless scanner find @p networks from now on. False where it cannot be written.
-    bool setNetworks(const QStringList &networks) const;
+    bool setNetworks(const QStringList &networks, bool scanHangs = false) const;
 
 private:
     QString root;

@@ -26,7 +26,7 @@ QByteArray cell(int number, const QString &name)
 }
 } // namespace
 
-QByteArray scannerScript(const QStringList &networks)
+QByteArray scannerScript(const QStringList &networks, bool hangs)
 {
     const QByteArray head =
         "#!/bin/sh\n"
@@ -40,7 +40,8 @@ QByteArray scannerScript(const QStringList &networks)
     for (int i = 0; i < networks.size(); ++i)
         scan += cell(i + 1, networks.at(i));
     // The quoted end mark keeps the shell from reading anything into the names.
-    return head + "cat <<'END OF SCAN'\nwlan1     Scan completed :\n" + scan + "END OF SCAN\n";
+    return head + "cat <<'END OF SCAN'\nwlan1     Scan completed :\n" + scan + "END OF SCAN\n" +
+           (hangs ? "sleep 1000\n" : "");
 }
 
 } // namespace simulator

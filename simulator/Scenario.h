@@ -3,6 +3,7 @@
 #include "simulator/DayCurve.h"
 #include "simulator/FirmwareAnswer.h"
 #include "simulator/SensorFrame.h"
+#include "simulator/StoreTrouble.h"
 #include "simulator/SysfsText.h"
 
 #include <QList>
@@ -24,10 +25,13 @@ struct Scenario
     bool hasSensors = true; ///< false: neither serial device nor sysfs files
     QList<FrameFault> frames{FrameFault::None};
     QList<TextFault> texts{TextFault::None};
+    int sensorDelay = 0;       ///< ms that the driver of temperature and humidity takes to answer
     int framesUntilUnplug = 0; ///< the serial device vanishes after so many frames; 0: never
     QStringList networks{QStringLiteral("Studio"), QStringLiteral("Garden"), QStringLiteral("客厅"),
                          QStringLiteral("Workshop 5G"), QStringLiteral("Guest House")};
+    bool scanHangs = false; ///< the scanner lists the networks and does not end
     QList<FirmwareFault> firmware{FirmwareFault::None};
+    StoreFault store = StoreFault::None;
 };
 
 /// Lists every scenario, the default first.

@@ -2,6 +2,8 @@
 
 #include "device/DevicePath.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -10,11 +12,22 @@ namespace simulator {
 namespace {
 constexpr auto refreshPeriod = 1s;
 
-const QString rootVariable = QStringLiteral("ZELL_DEVICE_ROOT");
-const QString firmwareVariable = QStringLiteral("ZELL_FIRMWARE_URL");
 const QString pathVariable = QStringLiteral("PATH");
-// Where the system has a proxy, the firmware server on loopback must not be asked for through it.
-const QString noProxyVariable = QStringLiteral("no_proxy");
+
+// Null where the card has no fault.
+const char *cardVariable(StoreFault fault)
+{
+    switch (fault) {
+    case StoreFault::Full:
+        return "ZELL_CARD_FULL";
+    case StoreFault::ReadOnly:
+        return "ZELL_CARD_READ_ONLY";
+    case StoreFault::None:
+    case StoreFault::Locked:
+        break;
+    }
+    return nullptr;
+}
 
 QList<FirmwareAnswer> answersOf(const Scenario &scenario)
 {
@@ -30,6 +43,9 @@ SimulatedDevice::SimulatedDevice(const QString &rootPath, Settings deviceSetting
     , root(rootPath)
     , settings(std::move(deviceSettings))
     , firmware(answersOf(settings.scenario))
+    , trouble({.fault = settings.scenario.store,
+               .store = QDir::current().filePath(QStringLiteral("ZellQt4.db")),
+               .flag = root.storeFault()})
     , random(settings.seed)
 {
     if (settings.scenario.hasSensors)
@@ -44,7 +60,7 @@ SimulatedDevice::SimulatedDevice(const QString &rootPath, Settings deviceSetting
 
 bool SimulatedDevice::start(QString *problem)
 {
-    if (!root.create(settings.scenario.networks, problem))
+    if (!root.create(settings.scenario.networks, problem, settings.scenario.scanHangs))
         return false;
     if (!firmware.listen()) {
         *problem = QStringLiteral("no port for the firmware server: ") + firmware.errorString();
@@ -54,32 +70,55 @@ bool SimulatedDevice::start(QString *problem)
         *problem = QStringLiteral("cannot make the serial device ") + root.serialDevice();
         return false;
     }
+    trouble.start();
     clock.start();
     refresh();
     refreshTimer.start(refreshPeriod);
     return true;
 }
 
+QMap<QString, QString> SimulatedDevice::variables() const
+{
+    const Scenario &scenario = settings.scenario;
+    // Where the system has a proxy, the firmware server on loopback must not be asked for through
+    // it.
+    QString noProxy = qEnvironmentVariable("no_proxy");
+    noProxy += (noProxy.isEmpty() ? QString() : QStringLiteral(",")) + QStringLiteral("127.0.0.1");
+    QMap<QString, QString> values{{QStringLiteral("ZELL_DEVICE_ROOT"), root.path()},
+                                  {QStringLiteral("ZELL_FIRMWARE_URL"), firmware.url()},
+                                  {QStringLiteral("no_proxy"), noProxy}};
+    if (scenario.sensorDelay > 0) {
+        values[QStringLiteral("ZELL_SLOW_FILE")] = root.climateFile();
+        values[QStringLiteral("ZELL_SLOW_MS")] = QString::number(scenario.sensorDelay);
+    }
+    if (const char *variable = cardVariable(scenario.store)) {
+        values[QStringLiteral("ZELL_CARD")] = QDir::currentPath();
+        values[QLatin1String(variable)] = root.storeFault();
+    }
+    // The faults that the files themselves cannot have come from a library beside the simulator.
+    if (values.size() > 3)
+        values[QStringLiteral("LD_PRELOAD")] =
+            QCoreApplication::applicationDirPath() + QStringLiteral("/faults/libzell-faults.so");
+    return values;
+}
+
 QProcessEnvironment SimulatedDevice::environment() const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(rootVariable, root.path());
-    environment.insert(firmwareVariable, firmware.url());
+    const QMap<QString, QString> values = variables();
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        environment.insert(value.key(), value.value());
     environment.insert(pathVariable,
                        root.programFolder() + QLatin1Char(':') + environment.value(pathVariable));
-    const QString noProxy = environment.value(noProxyVariable);
-    environment.insert(noProxyVariable,
-                       (noProxy.isEmpty() ? QString() : noProxy + QLatin1Char(',')) +
-                           QStringLiteral("127.0.0.1"));
     return environment;
 }
 
 QString SimulatedDevice::environmentLines() const
 {
-    const QProcessEnvironment values = environment();
+    const QMap<QString, QString> values = variables();
     QString lines;
-    for (const QString &name : {rootVariable, firmwareVariable, noProxyVariable})
-        lines += QStringLiteral("export %1=%2\n").arg(name, shellQuoted(values.value(name)));
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        lines += QStringLiteral("export %1=%2\n").arg(value.key(), shellQuoted(value.value()));
     return lines +
            QStringLiteral("export PATH=%1:\"$PATH\"\n").arg(shellQuoted(root.programFolder()));
 }

@@ -6,6 +6,7 @@
 #include "simulator/Scenario.h"
 
 #include <QElapsedTimer>
+#include <QMap>
 #include <QObject>
 #include <QProcessEnvironment>
 #include <QTimer>
@@ -40,6 +41,7 @@ public:
     QString environmentLines() const;
 
 private:
+    QMap<QString, QString> variables() const;
     double now(const DayCurve &curve) const;
     void refresh();
 
@@ -47,6 +49,7 @@ private:
     Settings settings;
     FirmwareServer firmware;
     std::unique_ptr<ParticleSensor> sensor;
+    StoreTrouble trouble;
     QElapsedTimer clock;
     QTimer refreshTimer;
     QRandomGenerator random;

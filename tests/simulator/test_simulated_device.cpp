@@ -6,18 +6,39 @@
 #include "testkit/TableRows.h"
 
 #include <QProcess>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 using namespace simulator;
+using namespace std::chrono_literals;
 
-// The parts that need no running device: curves, frames, texts, scans, scenarios, HTTP answers.
+// The parts that need no running device: curves, frames, texts, scans, store, HTTP answers.
 class TestSimulatedDevice : public QObject
 {
     Q_OBJECT
 
     struct Request
     {
-        const char *name, *status;
-        qint64 bodySize;
+        const char *name;
+        QByteArray line, status;
+        qint64 bodySize = 0;
+    };
+    struct Climate
+    {
+        const char *name;
+        double celsius, percent;
+        QByteArray text;
+    };
+    struct Scan
+    {
+        const char *name, *scenario;
+        bool ends = true;
+    };
+    struct Trouble
+    {
+        const char *name;
+        StoreFault fault;
+        bool isFlagged;
     };
 
 private slots:
@@ -47,14 +68,24 @@ private slots:
         QVERIFY(sensorBursts(BadHeader, 567, random).first().startsWith("ZZ"));
     }
 
-    void textsKeepTheirColumnsUnlessBroken()
+    void textsKeepTheirColumns_data()
     {
-        QCOMPARE(climateText(23.456, 45.678), "temp = 23456, humidity = 45678");
-        QCOMPARE(climateText(0.95, 5), "temp = 00950, humidity = 05000");
-        QCOMPARE(climateText(-0.0001, 0), "temp = 00000, humidity = 00000");
-        QCOMPARE(climateText(-5.25, 9.9996), "temp = -5250, humidity = 10000");
-        QCOMPARE(climateText(-0.25, 45), "temp = -0250, humidity = 45000");
-        QCOMPARE(climateText(-12.3, 100), "temp = -9999, humidity = 99999");
+        addRows<Climate>({{"usual", 23.456, 45.678, "temp = 23456, humidity = 45678"},
+                          {"short", 0.95, 5, "temp = 00950, humidity = 05000"},
+                          {"just below zero", -0.0001, 0, "temp = 00000, humidity = 00000"},
+                          {"rounded", -5.25, 9.9996, "temp = -5250, humidity = 10000"},
+                          {"limits", -12.3, 100, "temp = -9999, humidity = 99999"}});
+    }
+
+    void textsKeepTheirColumns()
+    {
+        QFETCH(Climate, row);
+        QCOMPARE(climateText(row.celsius, row.percent), row.text);
+        QCOMPARE(lightText(row.celsius - 50), "0");
+    }
+
+    void textsBreak()
+    {
         QRandomGenerator random(1);
         const QByteArray good = climateText(23.456, 45.678);
         QCOMPARE(brokenText(TextFault::None, good, random), good);
@@ -63,24 +94,61 @@ private slots:
         QCOMPARE(brokenText(TextFault::Letters, good, random), "temp = xxxxx, humidity = xxxxx");
         QVERIFY(!brokenText(TextFault::Binary, good, random).startsWith("temp"));
         QVERIFY(brokenText(TextFault::Huge, good, random).size() > 1000000);
-        QCOMPARE(lightText(-3), "0");
+    }
+
+    void scanShowsTheNetworks_data()
+    {
+        addRows<Scan>({{"sound", "steady"},
+                       {"odd names", "garbage"},
+                       {"fails", "no-wifi"},
+                       {"hangs", "hung-scan", false}});
     }
 
     // The device's program cuts the names out of the scan with grep and two fixed columns.
     void scanShowsTheNetworks()
     {
-        for (const Scenario &scenario : scenarios()) {
-            QVERIFY(replaceFile("iwlist", scannerScript(scenario.networks), true));
-            QProcess shell;
-            shell.start("/bin/sh", {"-c", "./iwlist wlan1 scanning|grep ESSID"});
-            QVERIFY(shell.waitForFinished());
-            QStringList names = QString(shell.readAllStandardOutput()).split('\n');
-            names.removeLast();
-            for (QString &name : names)
-                name = name.mid(27).chopped(1);
-            QCOMPARE(names, scenario.networks);
-            QCOMPARE(shell.readAllStandardError().isEmpty(), !names.isEmpty());
+        QFETCH(Scan, row);
+        const Scenario scenario = *findScenario(row.scenario);
+        QVERIFY(replaceFile("iwlist", scannerScript(scenario.networks, scenario.scanHangs), true));
+        QProcess shell;
+        shell.start("/bin/sh", {"-c", "./iwlist wlan1 scanning|grep --line-buffered ESSID"});
+        QStringList names;
+        while (names.size() < scenario.networks.size() && shell.waitForReadyRead()) {
+            while (shell.canReadLine())
+                names.append(QString(shell.readLine()).mid(27).chopped(2));
         }
+        QCOMPARE(names, scenario.networks);
+        QCOMPARE(shell.waitForFinished(row.ends ? 30000 : 100), row.ends);
+        QCOMPARE(shell.readAllStandardError().isEmpty(), !names.isEmpty());
+        shell.kill();
+        shell.waitForFinished();
+    }
+
+    void storeTroubleComesAndGoes_data()
+    {
+        addRows<Trouble>({{"full", StoreFault::Full, true},
+                          {"read-only", StoreFault::ReadOnly, true},
+                          {"locked", StoreFault::Locked, false}});
+    }
+
+    void storeTroubleComesAndGoes()
+    {
+        QFETCH(Trouble, row);
+        QSqlDatabase store = QSqlDatabase::addDatabase("QSQLITE");
+        store.setDatabaseName("store.db");
+        store.setConnectOptions("QSQLITE_BUSY_TIMEOUT=0");
+        QVERIFY(store.open());
+        const auto isSound = [&store] {
+            const bool isLocked = !QSqlQuery(store).exec("begin immediate");
+            QSqlQuery(store).exec("rollback");
+            return !isLocked && !QFile::exists("flag");
+        };
+        StoreTrouble trouble({row.fault, "store.db", "flag", 100ms, 1s});
+        trouble.start();
+        QVERIFY(isSound());
+        QTRY_VERIFY(!isSound());
+        QCOMPARE(QFile::exists("flag"), row.isFlagged);
+        QTRY_VERIFY(isSound());
     }
 
     void firmwareFaultsCanBeNamed()
@@ -93,19 +161,20 @@ private slots:
 
     void serverAnswersRequests_data()
     {
-        addRows<Request>({{"GET /zell/ZellQt-1.1.pkg?x=1 HTTP/1.1", "200", firmwareSize},
-                          {"HEAD /zell/ZellQt-1.1.pkg HTTP/1.1", "200", 0},
-                          {"GET / HTTP/1.1", "404", 0},
-                          {"POST /zell/ZellQt-1.1.pkg HTTP/1.1", "405", 0},
-                          {"no HTTP", "400", 0},
-                          {"", "400", 0}});
+        const QByteArray package = firmwarePath;
+        addRows<Request>({{"package", "GET " + package + "?x=1 HTTP/1.1", "200", firmwareSize},
+                          {"head alone", "HEAD " + package + " HTTP/1.1", "200"},
+                          {"another path", "GET / HTTP/1.1", "404"},
+                          {"another method", "POST " + package + " HTTP/1.1", "405"},
+                          {"no HTTP", "no HTTP", "400"},
+                          {"nothing", "", "400"}});
     }
 
     void serverAnswersRequests()
     {
         QFETCH(Request, row);
         const FirmwareAnswer answer =
-            answerTo(QByteArray(row.name) + "\r\n\r\n", firmwareAnswer(FirmwareFault::None));
+            answerTo(row.line + "\r\n\r\n", firmwareAnswer(FirmwareFault::None));
         QCOMPARE(answer.head.mid(9, 3), row.status);
         QCOMPARE(answer.bodySize, row.bodySize);
         QVERIFY(answer.head.endsWith("\r\n\r\n"));
