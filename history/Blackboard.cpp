@@ -12,7 +12,9 @@
 #include <cmath>
 
 namespace {
-constexpr std::chrono::milliseconds revealTime{1000};
+using namespace std::chrono_literals;
+
+constexpr auto revealTime = 1000ms;
 constexpr int daysOfWeek = 7;
 // Kept[three-divisions]: of the ranges, whatever number of steps the axis is drawn in.
 constexpr int rangeDivisions = 3;
@@ -84,16 +86,6 @@ float Blackboard::timeXToScreenX(float time, bool isLocal) const
     return timeScale.toX(isLocal ? whole - LocalTime::secondsAheadOfUtc : whole);
 }
 
-float Blackboard::valueYToScreenY(float value) const
-{
-    return valueScale.toY(value);
-}
-
-float Blackboard::screenYToValueY(float y) const
-{
-    return valueScale.toValue(y);
-}
-
 int Blackboard::searchNearestTime(float time)
 {
     resetTimeLine();
@@ -116,12 +108,6 @@ NearestDot Blackboard::nearestTo(float x) const
     return nearestDot(times, screenXs, {start, end}, x);
 }
 
-void Blackboard::resetPlot()
-{
-    if (valueScale.bottom < 0 || valueScale.top < 0)
-        valueScale = ChartScale::valuesOf(height(), topMargin, bottomMargin, shownRange());
-}
-
 void Blackboard::resetTimeLine()
 {
     if (timeScale.pxPerHour == 0.0F || timeScale.pxPerSecond == 0.0F) {
@@ -139,7 +125,8 @@ void Blackboard::resetTimeLine()
 
 void Blackboard::resetGeometry()
 {
-    resetPlot();
+    if (valueScale.bottom < 0 || valueScale.top < 0)
+        valueScale = ChartScale::valuesOf(height(), topMargin, bottomMargin, shownRange());
     resetTimeLine();
 }
 
@@ -150,21 +137,19 @@ ValueRange Blackboard::shownRange() const
 
 ChartFrame Blackboard::currentFrame() const
 {
-    ChartFrame frame;
-    frame.size = size();
-    frame.pixelRatio = devicePixelRatioF();
-    frame.values = valueScale;
-    frame.times = timeScale;
-    frame.rightMargin = rightMargin;
-    frame.range = shownRange();
-    frame.hours = hours;
-    frame.valueDivisions = valueDivisions;
     const auto [start, end] = getDayTimeRange(day);
-    frame.days = {start, end};
-    frame.otherDays = mode == sevenDays;
-    frame.revealed = animating ? timeLine->currentValue() : 1;
-    frame.series = series;
-    return frame;
+    return {.size = size(),
+            .pixelRatio = devicePixelRatioF(),
+            .values = valueScale,
+            .times = timeScale,
+            .rightMargin = rightMargin,
+            .range = shownRange(),
+            .hours = hours,
+            .valueDivisions = valueDivisions,
+            .days = {start, end},
+            .otherDays = mode == sevenDays,
+            .revealed = animating ? timeLine->currentValue() : 1,
+            .series = series};
 }
 
 bool Blackboard::refreshStillPart(const ChartFrame &frame)
@@ -251,11 +236,6 @@ void Blackboard::followFinger(const QMouseEvent *event)
     }
     update(paintedMarker);
     update(place);
-}
-
-void Blackboard::touchEvent(QMouseEvent *event)
-{
-    followFinger(event);
 }
 
 void Blackboard::mousePressEvent(QMouseEvent *event)

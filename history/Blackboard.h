@@ -15,8 +15,7 @@ class QTimeLine;
 /// A day of the chart: 0 for today, 1 for yesterday ... 6; 7 for the whole week.
 using CurrentDay = int;
 
-/// The chart of the history: readings of one quantity as dots over the hours of a day, which a
-/// finger explores.
+/// Draws the readings of one quantity as dots over the hours of a day, which a finger explores.
 ///
 /// Times are Unix seconds, days those of UTC + 8 hours. The still part is painted once per change
 /// and kept; a moving finger repaints the pixels of its marker only. GUI thread.
@@ -36,27 +35,27 @@ public:
     /// humidity. Values that are no numbers are left out with a debug line.
     void setValueMap(const QMap<int, float> &map, int newType);
 
-    /// Start and, exclusive, end of @p day in Unix seconds; always today in the 24-hour
-    /// presentation.
+    /// Gives the start and, exclusive, the end of @p day in Unix seconds; always today in the
+    /// 24-hour presentation.
     std::pair<int, int> getDayTimeRange(CurrentDay day) const;
-    /// False exactly at 0 o'clock local time, despite its name.
+    /// Tells whether it is not 0 o'clock local time, despite its name.
     static bool is0oclock(int t);
     void isCurrentDay(int day);
 
-    /// The x of the time of day of @p time, which is local or, as a Unix time, in UTC.
+    /// Gives the x of the time of day of @p time, which is local or, as a Unix time, in UTC.
     float timeXToScreenX(float time, bool isLocal) const;
-    float valueYToScreenY(float value) const;
-    /// The value at @p y mirrored about the middle of the plot area.
-    float screenYToValueY(float y) const;
+    float valueYToScreenY(float value) const { return valueScale.toY(value); }
+    /// Gives the value at @p y mirrored about the middle of the plot area.
+    float screenYToValueY(float y) const { return valueScale.toValue(y); }
 
-    /// The reading nearest to the Unix time @p time, or -1.
+    /// Finds the reading nearest to the Unix time @p time, or -1.
     int searchNearestTime(float time);
-    /// The shown reading nearest to the finger at @p x, or -1: its time where @p returnTime is set,
-    /// else its x.
+    /// Finds the shown reading nearest to the finger at @p x, or -1: its time where @p returnTime
+    /// is set, else its x.
     int searchNearestScreenX(float x, bool returnTime);
 
     /// Handles a press or a move like the mouse, without a debug line.
-    void touchEvent(QMouseEvent *event);
+    void touchEvent(QMouseEvent *event) { followFinger(event); }
 
     // What the page changes, followed by update().
     int mode = twentyFourHours;
@@ -98,7 +97,6 @@ private:
     static PmColorGenerator &gc();
     void resetGeometry();
     void resetTimeLine();
-    void resetPlot();
     ValueRange shownRange() const;
     ChartFrame currentFrame() const;
     NearestDot nearestTo(float x) const;

@@ -20,14 +20,6 @@ constexpr int markerLineFadesAboveFoot = 50;
 constexpr int ringRadius = 9;
 constexpr int ringSize = 18;
 
-QFont labelFont()
-{
-    // The default family of the device.
-    QFont font(QStringLiteral("Helvetica"));
-    font.setPixelSize(labelSize);
-    return font;
-}
-
 // A line down the chart that fades from color to nothing. The painter would hand a gradient of this
 // height to its threads, which takes ten times as long as the pixels do.
 QImage fadingLine(const QColor &color, int height)
@@ -55,7 +47,10 @@ ChartPainter::ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGen
     , colors(scale)
 {
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setFont(labelFont());
+    // The default family of the device.
+    QFont font(QStringLiteral("Helvetica"));
+    font.setPixelSize(labelSize);
+    painter->setFont(font);
 }
 
 void ChartPainter::drawStillPart(const QMap<int, float> &readings)

@@ -8,7 +8,7 @@
 #include <QPointF>
 #include <QSize>
 
-/// All that the still part of the chart depends on; equal frames look the same.
+/// Holds all that the still part of the chart depends on; equal frames look the same.
 struct ChartFrame
 {
     QSize size;
@@ -42,14 +42,14 @@ public:
     /// Paints on @p target, which must be active as long as this object is used.
     ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGenerator *scale);
 
-    /// The axes, their grid, and a dot for each of @p readings.
+    /// Draws the axes, their grid, and a dot for each of @p readings.
     void drawStillPart(const QMap<int, float> &readings);
 
-    /// The line and the ring at a touched reading.
+    /// Draws the line and the ring at a touched reading.
     void drawMarker(const ChartMarker &marker);
 
-    /// The pixels that drawMarker() may touch on a chart @p height pixels high: one rectangle,
-    /// because a region of several makes all painting below it slow.
+    /// Covers the pixels that drawMarker() may touch on a chart @p height pixels high: one
+    /// rectangle, because a region of several makes all painting below it slow.
     static QRect markerRect(const ChartMarker &marker, int height);
 
 private:

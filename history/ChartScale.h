@@ -8,7 +8,7 @@
 /// size.
 namespace ChartScale {
 
-/// @p value truncated towards zero; beyond any screen it stops at 16,777,216 pixels, NaN gives 0.
+/// Truncates @p value towards zero; beyond any screen it stops at 16,777,216 pixels, NaN gives 0.
 int truncated(double value);
 
 /// The vertical scale of the plot area.
@@ -19,15 +19,15 @@ struct Values
     float scale = 0;   ///< pixels per unit, negative because larger values are higher
     float offset = 0;  ///< y of the value 0
 
-    /// The y of @p value.
+    /// Gives the y of @p value.
     float toY(float value) const { return offset + value * scale; }
-    /// The value at @p y, mirrored about the middle of the plot area. 0 where the area has no
+    /// Gives the value at @p y, mirrored about the middle of the plot area. 0 where the area has no
     /// height.
     float toValue(float y) const;
     bool operator==(const Values &) const = default;
 };
 
-/// The scale of a widget @p height pixels high whose plot spans @p range between its margins.
+/// Spans a widget @p height pixels high whose plot spans @p range between its margins.
 Values valuesOf(int height, float topMargin, float bottomMargin, ValueRange range);
 
 /// The horizontal scale: one day, whatever the date of a reading.
@@ -37,12 +37,12 @@ struct Times
     float pxPerHour = 0;
     float pxPerSecond = 0;
 
-    /// The x of the local time of day of @p time.
+    /// Gives the x of the local time of day of @p time.
     float toX(qint64 time) const;
     bool operator==(const Times &) const = default;
 };
 
-/// The scale of a plot @p width pixels wide, margins not counted, that shows @p hours steps.
+/// Spans a plot @p width pixels wide, margins not counted, that shows @p hours steps.
 Times timesOf(int width, float leftMargin, float rightMargin, int hours);
 
 /// One label of the hour axis, and whether a grid line goes with it.
@@ -54,7 +54,7 @@ struct HourTick
     bool hasLine = false;
 };
 
-/// The labels 0 to @p hours. None where the margins leave no width.
+/// Lists the labels 0 to @p hours. None where the margins leave no width.
 QList<HourTick> hourTicks(const Times &times, int width, float rightMargin, int hours);
 
 /// One label of the value axis and its grid line.
@@ -64,8 +64,8 @@ struct ValueTick
     int y = 0;
 };
 
-/// The labels from the bottom up. A plot too low for @p divisions steps has its lowest one only,
-/// one without any height none.
+/// Lists the labels from the bottom up. A plot too low for @p divisions steps has its lowest one
+/// only, one without any height none.
 QList<ValueTick> valueTicks(const Values &values, ValueRange range, int divisions);
 
 } // namespace ChartScale

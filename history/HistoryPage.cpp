@@ -38,11 +38,10 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
     , clock(std::move(currentTime))
     , ui(std::make_unique<Ui::HistoryPage>())
     , slideLabel(new SlideLabel(this))
-    , blackboard(nullptr)
 {
     ui->setupUi(this);
     ui->tabWidget->setStyleSheet(tabStyle);
-    for (QRadioButton *button : dayButtons())
+    for (auto *button : ui->day_group->findChildren<QRadioButton *>())
         button->setStyleSheet(dayStyle);
     ui->day_group->hide();
     slideLabel->setGeometry(0, 0, 200, 100);
@@ -94,25 +93,20 @@ void HistoryPage::hideEvent(QHideEvent *event)
     QWidget::hideEvent(event);
 }
 
-std::array<QRadioButton *, HistoryPage::numberOfDays> HistoryPage::dayButtons() const
-{
-    return {ui->radio_day0, ui->radio_day1, ui->radio_day2, ui->radio_day3,
-            ui->radio_day4, ui->radio_day5, ui->radio_day6};
-}
-
 void HistoryPage::labelDays()
 {
     const QDateTime now = QDateTime::fromSecsSinceEpoch(clock(), Qt::OffsetFromUTC,
                                                         int(LocalTime::secondsAheadOfUtc));
     int daysAgo = 0;
-    for (QRadioButton *button : dayButtons())
+    for (auto *button : ui->day_group->findChildren<QRadioButton *>())
         button->setText(now.addDays(-daysAgo++).toString(QStringLiteral("dd 日")));
 }
 
-void HistoryPage::present(int mode, float leftMargin)
+void HistoryPage::present(int mode)
 {
     blackboard->mode = mode;
-    blackboard->timeScale = {.left = leftMargin};
+    blackboard->timeScale = {.left =
+                                 mode == Blackboard::sevenDays ? marginOf7Days : marginOf24Hours};
     blackboard->valueScale = {};
     blackboard->update();
 }
@@ -121,12 +115,7 @@ void HistoryPage::selectDay(int day)
 {
     // Kept[day-of-unchecked]: the button that lost its mark calls first, the new one last.
     blackboard->day = day;
-    present(Blackboard::sevenDays, marginOf7Days);
-}
-
-void HistoryPage::on_button_back_clicked()
-{
-    emit signal_backDefaultPage();
+    present(Blackboard::sevenDays);
 }
 
 void HistoryPage::on_tabWidget_currentChanged(int index)
@@ -134,45 +123,7 @@ void HistoryPage::on_tabWidget_currentChanged(int index)
     const bool shows7Days = index == indexOf7Days;
     qDebug() << (shows7Days ? "show 7 days data" : "show 24 hours data");
     ui->day_group->setVisible(shows7Days);
-    if (shows7Days)
-        present(Blackboard::sevenDays, marginOf7Days);
-    else
-        present(Blackboard::twentyFourHours, marginOf24Hours);
-}
-
-void HistoryPage::on_radio_day0_toggled(bool)
-{
-    selectDay(0);
-}
-
-void HistoryPage::on_radio_day1_toggled(bool)
-{
-    selectDay(1);
-}
-
-void HistoryPage::on_radio_day2_toggled(bool)
-{
-    selectDay(2);
-}
-
-void HistoryPage::on_radio_day3_toggled(bool)
-{
-    selectDay(3);
-}
-
-void HistoryPage::on_radio_day4_toggled(bool)
-{
-    selectDay(4);
-}
-
-void HistoryPage::on_radio_day5_toggled(bool)
-{
-    selectDay(5);
-}
-
-void HistoryPage::on_radio_day6_toggled(bool)
-{
-    selectDay(6);
+    present(shows7Days ? Blackboard::sevenDays : Blackboard::twentyFourHours);
 }
 
 void HistoryPage::onBlackboradTouch(float x, int time, float value, const QColor &valueColor,

@@ -6,18 +6,16 @@
 #include <QColor>
 #include <QTimer>
 #include <QWidget>
-#include <array>
 #include <memory>
 
 class Blackboard;
-class QRadioButton;
 class SlideLabel;
 
 namespace Ui {
 class HistoryPage;
 }
 
-/// The page of the history: a chart of today or of seven days, read by touch.
+/// Shows the history: a chart of today or of seven days, read by touch.
 ///
 /// It shows a generated demonstration series, not the readings of the device. While it is visible
 /// its days follow the clock. GUI thread.
@@ -37,7 +35,7 @@ public:
     void loadData();
 
 signals:
-    /// The user wants to leave the page.
+    /// Tells that the user wants to leave the page.
     void signal_backDefaultPage();
 
 protected:
@@ -45,30 +43,28 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private slots:
-    void on_button_back_clicked();
+    void on_button_back_clicked() { emit signal_backDefaultPage(); }
     void on_tabWidget_currentChanged(int index);
-    void on_radio_day0_toggled(bool checked);
-    void on_radio_day1_toggled(bool checked);
-    void on_radio_day2_toggled(bool checked);
-    void on_radio_day3_toggled(bool checked);
-    void on_radio_day4_toggled(bool checked);
-    void on_radio_day5_toggled(bool checked);
-    void on_radio_day6_toggled(bool checked);
+    void on_radio_day0_toggled(bool) { selectDay(0); }
+    void on_radio_day1_toggled(bool) { selectDay(1); }
+    void on_radio_day2_toggled(bool) { selectDay(2); }
+    void on_radio_day3_toggled(bool) { selectDay(3); }
+    void on_radio_day4_toggled(bool) { selectDay(4); }
+    void on_radio_day5_toggled(bool) { selectDay(5); }
+    void on_radio_day6_toggled(bool) { selectDay(6); }
     void onBlackboradTouch(float x, int time, float value, const QColor &valueColor,
                            const QString &unit);
     void onBlackboradRelease();
 
 private:
-    static constexpr std::size_t numberOfDays = 7;
-    std::array<QRadioButton *, numberOfDays> dayButtons() const;
     void labelDays();
-    void present(int mode, float leftMargin);
+    void present(int mode);
     void selectDay(int day);
 
     LocalTime::Clock clock;
     int quantity = int(Quantity::Temperature);
     std::unique_ptr<Ui::HistoryPage> ui;
     SlideLabel *slideLabel;
-    Blackboard *blackboard;
+    Blackboard *blackboard = nullptr;
     QTimer clockWatch;
 };

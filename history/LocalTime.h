@@ -24,13 +24,13 @@ struct Range
     bool operator==(const Range &) const = default;
 };
 
-/// The system's clock, in Unix seconds.
+/// Asks the system's clock, in Unix seconds.
 qint64 systemClock();
 
-/// The local time of day of @p time: 0 to 86399, also before 1970.
+/// Gives the local time of day of @p time: 0 to 86399, also before 1970.
 qint64 secondOfDay(qint64 time);
 
-/// The Unix time at which the local day of @p time began.
+/// Gives the Unix time at which the local day of @p time began.
 qint64 startOfDay(qint64 time);
 
 } // namespace LocalTime

@@ -22,8 +22,8 @@ struct NearestDot
     bool operator==(const NearestDot &) const = default;
 };
 
-/// The dot nearest to the finger at @p x among the readings within @p days; at equal distance the
-/// right one. @p times ascends, and @p screenXs holds the x of each, which within one local day
+/// Finds the dot nearest to the finger at @p x among the readings within @p days; at equal distance
+/// the right one. @p times ascends, and @p screenXs holds the x of each, which within one local day
 /// never decreases. Where several days lie on one axis, the earliest day with a dot at or right of
 /// the finger decides. A single reading is never found.
 NearestDot nearestDot(const QList<int> &times, const QList<int> &screenXs, LocalTime::Range days,

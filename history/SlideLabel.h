@@ -6,8 +6,8 @@
 
 class QLabel;
 
-/// The read-out of a touched reading: its value on a chip of its colour, the unit beside it, and a
-/// date above. GUI thread.
+/// Reads out a touched reading: its value on a chip of its colour, the unit beside it, and a date
+/// above. GUI thread.
 class SlideLabel : public QWidget
 {
     Q_OBJECT

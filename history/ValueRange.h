@@ -25,7 +25,7 @@ struct ValueRanges
     ValueRange all;
 };
 
-/// The ranges of @p readings (Unix time to value) for an axis of @p divisions steps. The day that
-/// begins at @p todayStart takes both its midnights in, and the range of everything where it has no
-/// reading. Without readings both are 0 to 15.
+/// Finds the ranges of @p readings (Unix time to value) for an axis of @p divisions steps. The day
+/// that begins at @p todayStart takes both its midnights in, and the range of everything where it
+/// has no reading. Without readings both are 0 to 15.
 ValueRanges valueRangesOf(const QMap<int, float> &readings, qint64 todayStart, int divisions);

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-/// A page with the form @p Form, a class made from a .ui file. It is complete in the page's source
+/// Gives a page the form @p Form, a class made from a .ui file. It is complete in the page's source
 /// file only, where the constructor notes how to delete it.
 template <class Form>
 class FormPage : public Page
@@ -23,7 +23,7 @@ private:
     void dropForm() final { ui.reset(); }
 };
 
-/// A page that exists once: built by whoever opens it first, and moved to the holder of whoever
+/// Makes a page exist once: built by whoever opens it first, and moved to the holder of whoever
 /// opens it next. It is never emptied.
 template <class Class, class Form>
 // The analysis does not see that the base, a template, has a virtual destructor.

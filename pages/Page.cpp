@@ -29,11 +29,6 @@ void Page::empty()
         widget->deleteLater();
 }
 
-void Page::on_button_back_clicked()
-{
-    leave();
-}
-
 void Page::back_default_page()
 {
     auto *stack = findChild<QStackedWidget *>(QString(), Qt::FindDirectChildrenOnly);

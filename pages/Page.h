@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A page of the settings area: built afresh for every visit, opened by a PageHolder and left by
-/// signal_backDefaultPage(), on the opaque ground of all pages.
+/// Serves as a page of the settings area: built afresh for every visit, opened by a PageHolder and
+/// left by signal_backDefaultPage(), on the opaque ground of all pages.
 ///
 /// Its life: whole from its construction until its holder opens the next page, thus also after it
 /// has been left; emptied from then on. An emptied page stays as an empty frame until the holder
@@ -26,12 +26,12 @@ public:
     virtual bool existsOnce() const { return false; }
 
 signals:
-    /// The user is done with the page.
+    /// Tells that the user is done with the page.
     void signal_backDefaultPage();
 
 public slots:
     /// Leaves the page: its arrow was tapped.
-    virtual void on_button_back_clicked();
+    virtual void on_button_back_clicked() { leave(); }
     /// Shows the page itself again, once a page behind it has been left.
     void back_default_page();
 

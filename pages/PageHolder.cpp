@@ -12,9 +12,3 @@ void PageHolder::present(Page *page)
     if (auto *stack = qobject_cast<QStackedWidget *>(parentWidget()))
         stack->setCurrentWidget(this);
 }
-
-void PageHolder::emptyFormer()
-{
-    if (former)
-        former->empty();
-}

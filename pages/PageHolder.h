@@ -4,8 +4,8 @@
 
 #include <QPointer>
 
-/// The place in a stack of pages where a page opens: an empty page of the stack, promoted to this
-/// class in the form. GUI thread.
+/// Opens pages in its place in a stack of pages: an empty page of the stack, promoted to this class
+/// in the form. GUI thread.
 class PageHolder : public QWidget
 {
     Q_OBJECT
@@ -19,7 +19,8 @@ public:
     template <class Opened>
     Opened *open()
     {
-        emptyFormer();
+        if (former)
+            former->empty();
         auto *page = new Opened(this);
         former = page;
         present(page);
@@ -43,11 +44,10 @@ public:
     void present(Page *page);
 
 signals:
-    /// A page shown here was left. The way back to what was shown before is the receiver's.
+    /// Tells that a page shown here was left. The way back to what was shown before is the
+    /// receiver's.
     void signal_pageLeft();
 
 private:
-    void emptyFormer();
-
     QPointer<Page> former;
 };
