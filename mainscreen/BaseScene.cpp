@@ -4,7 +4,6 @@
 #include "history/HistoryPage.h"
 #include "mainscreen/Transparent.h"
 #include "pages/Ground.h"
-#include "pages/Quantity.h"
 #include "pages/SlideIn.h"
 #include "shell/Global_cfg.h"
 #include "ui_BaseScene.h"
@@ -56,8 +55,15 @@ void BaseScene::follow(const GetData *scheduler)
     connect(scheduler, &GetData::signal_updateHumData, this, &BaseScene::update_humData);
 }
 
+bool BaseScene::showsHistory() const
+{
+    return ui->stackedWidget->currentWidget() == ui->page_history;
+}
+
 void BaseScene::connect_init()
 {
+    connect(ui->stackedWidget, &QStackedWidget::currentChanged, this, &BaseScene::shownPageChanged,
+            Qt::UniqueConnection);
     connect(historyPage, &HistoryPage::signal_backDefaultPage, this, &BaseScene::jump_scenePage,
             Qt::UniqueConnection);
     // The clock of the history capsule belongs to the button beside it.
@@ -117,31 +123,11 @@ void BaseScene::mousePressEvent(QMouseEvent *event)
     event->setAccepted(touched);
 }
 
-void BaseScene::on_button_option_clicked()
-{
-    emit signal_jumpToOption();
-}
-
 void BaseScene::on_button_history_clicked()
 {
     historyPage->loadData();
     connect(slideIn(ui->page_history), &QPropertyAnimation::finished, this,
             &BaseScene::anHistory_finished);
-}
-
-void BaseScene::on_frame_pm_clicked()
-{
-    emit signal_jumpPage(int(Quantity::Pm));
-}
-
-void BaseScene::on_frame_temperature_clicked()
-{
-    emit signal_jumpPage(int(Quantity::Temperature));
-}
-
-void BaseScene::on_frame_humidity_clicked()
-{
-    emit signal_jumpPage(int(Quantity::Humidity));
 }
 
 void BaseScene::jump_scenePage()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pages/Quantity.h"
+
 #include <QWidget>
 #include <memory>
 #include <vector>
@@ -28,12 +30,17 @@ public:
     /// Shows on the tiles what @p scheduler reports.
     void follow(const GetData *scheduler);
 
+    /// Tells whether the history covers the main screen, once it has slid in.
+    bool showsHistory() const;
+
     /// Connects the way back from the history and the clock beside its button, once.
     void connect_init();
     /// Makes the animations that are kept for the motions of the overlay.
     void animation_init();
 
 signals:
+    /// Tells that showsHistory() has changed.
+    void shownPageChanged();
     /// Asks for the settings.
     void signal_jumpToOption();
     /// Tells that the tile of @p iPage, the number of a Quantity, was tapped.
@@ -43,11 +50,11 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private slots:
-    void on_button_option_clicked();
+    void on_button_option_clicked() { emit signal_jumpToOption(); }
     void on_button_history_clicked();
-    void on_frame_humidity_clicked();
-    void on_frame_pm_clicked();
-    void on_frame_temperature_clicked();
+    void on_frame_humidity_clicked() { emit signal_jumpPage(int(Quantity::Humidity)); }
+    void on_frame_pm_clicked() { emit signal_jumpPage(int(Quantity::Pm)); }
+    void on_frame_temperature_clicked() { emit signal_jumpPage(int(Quantity::Temperature)); }
     void jump_scenePage();
     void anHistory_finished();
     /// Shows a reading on its tile; invalidReading shows dashes and takes the tile's level and unit

@@ -34,8 +34,6 @@ BaseValue::BaseValue(QWidget *parent)
 
 BaseValue::~BaseValue() = default;
 
-void BaseValue::follow(const GetData *) {}
-
 void BaseValue::mousePressEvent(QMouseEvent *event)
 {
     pressPosition = event->position().toPoint();
@@ -43,11 +41,11 @@ void BaseValue::mousePressEvent(QMouseEvent *event)
 
 void BaseValue::mouseReleaseEvent(QMouseEvent *event)
 {
-    releasePosition = event->position().toPoint();
+    const int distance = event->position().toPoint().x() - pressPosition.x();
     // Kept[any-swipe]: a single pixel is enough, however slow and however steep.
-    if (releasePosition.x() < pressPosition.x())
+    if (distance < 0)
         emit signal_slideRight();
-    else if (releasePosition.x() > pressPosition.x())
+    else if (distance > 0)
         emit signal_slideLeft();
 }
 
@@ -59,7 +57,7 @@ void BaseValue::showRow(const DigitRow &row)
     showGlyph(ui->label_units, row.units);
     // Kept[unit-gone]: a later reading has none.
     if (row.hidesUnit)
-        hideUnit();
+        ui->label_symbol->hide();
     arrange(row.width);
     if (row.hasBlank())
         qDebug() << objectName() << "has no picture for a digit of its reading";
@@ -70,21 +68,6 @@ void BaseValue::setUnitPicture(Quantity quantity)
     const QPixmap picture(lookOf(quantity).unitPicture.toString());
     ui->label_symbol->setPixmap(picture);
     ui->label_symbol->setFixedWidth(picture.width());
-}
-
-void BaseValue::hideUnit()
-{
-    ui->label_symbol->hide();
-}
-
-QWidget *BaseValue::numberArea() const
-{
-    return ui->frame_center;
-}
-
-OptionFrame *BaseValue::number() const
-{
-    return ui->frame_value;
 }
 
 // No box layout: those take a negative spacing for "the style's own".

@@ -8,13 +8,12 @@
 #include <memory>
 
 class GetData;
-class OptionFrame;
 namespace Ui {
 class BaseValue;
 }
 
-/// What the three reading pages have in common: a number in digit pictures, and the swipe that
-/// changes the page. Transparent, so that the background shows through. GUI thread.
+/// Shows what the three reading pages have in common: a number in digit pictures, and the swipe
+/// that changes the page. Transparent, so that the background shows through. GUI thread.
 class BaseValue : public QWidget
 {
     Q_OBJECT
@@ -23,13 +22,16 @@ public:
     explicit BaseValue(QWidget *parent = nullptr);
     ~BaseValue() override;
 
-    /// Shows what @p scheduler reports of the page's quantity; a page without one shows nothing.
-    virtual void follow(const GetData *scheduler);
+    /// Shows what a scheduler reports of the page's quantity; a page without one shows nothing.
+    virtual void follow(const GetData *) {}
+
+    /// Tells whether the page can be seen. What moves on it stands still while it cannot.
+    virtual void setInSight(bool) {}
 
 signals:
-    /// A swipe to the left: the next page is wanted.
+    /// Asks for the next page: a swipe to the left.
     void signal_slideRight();
-    /// A swipe to the right: the previous page is wanted.
+    /// Asks for the previous page: a swipe to the right.
     void signal_slideLeft();
 
 protected:
@@ -40,12 +42,6 @@ protected:
     void showRow(const DigitRow &row);
     /// Puts the unit of @p quantity into `label_symbol`, which gets the picture's width.
     void setUnitPicture(Quantity quantity);
-    void hideUnit();
-
-    /// `frame_center`: the area of the number, hidden as a whole.
-    QWidget *numberArea() const;
-    /// `frame_value`: the number, which can be tapped.
-    OptionFrame *number() const;
 
     std::unique_ptr<Ui::BaseValue> ui;
 
@@ -53,5 +49,4 @@ private:
     void arrange(int width);
 
     QPoint pressPosition;
-    QPoint releasePosition;
 };

@@ -3,9 +3,8 @@
 #include <QString>
 #include <optional>
 
-/// How a reading is written in digit pictures.
-
-/// What one place of the row shows: a digit from 0 to 9 or one of the values below.
+/// What one place of a reading in digit pictures shows: a digit from 0 to 9 or one of the values
+/// below.
 using Glyph = int;
 inline constexpr Glyph glyphHidden = -1;
 /// The place is kept but stays empty: there is no picture for its digit.
@@ -25,23 +24,22 @@ struct DigitRow
     int width = 0;
     bool hidesUnit = false;
 
-    bool operator==(const DigitRow &) const = default;
-    /// Whether a place has no picture.
+    /// Tells whether a place has no picture.
     bool hasBlank() const;
 };
 
-/// The row of a PM2.5 value in ug/m3: three places below 1000, four from there, two dashes for
+/// Writes a PM2.5 value in ug/m3: three places below 1000, four from there, two dashes for
 /// invalidReading, nothing from 10000 (not credible). The places of a negative value, which no
 /// sensor delivers, are blank where their digit is below zero.
 std::optional<DigitRow> pmRow(int value);
 
-/// The row of a temperature in whole degrees: a minus sign where needed and two places, of which
+/// Writes a temperature in whole degrees: a minus sign where needed and two places, of which
 /// the tens stay blank from 100; two dashes without unit for invalidReading.
 DigitRow temperatureRow(int value);
 
-/// The row of a relative humidity in per cent: places as in temperatureRow(), negative values as in
+/// Writes a relative humidity in per cent: places as in temperatureRow(), negative values as in
 /// pmRow().
 DigitRow humidityRow(int value);
 
-/// Resource of a digit or dash. Empty for a hidden or blank place.
+/// Names the resource of a digit or dash. Empty for a hidden or blank place.
 QString glyphPicture(Glyph glyph);

@@ -4,34 +4,18 @@
 #include <algorithm>
 #include <cmath>
 
-void GradualValueToColor::setStartColor(int color)
-{
-    setColorAt(0.0F, color);
-}
-
-void GradualValueToColor::setEndColor(int color)
-{
-    setColorAt(1.0F, color);
-}
-
 void GradualValueToColor::setColorAt(float position, int color)
 {
     RGB parsed;
     parseHexToRGB(color, parsed.r, parsed.g, parsed.b);
     colors[position] = parsed;
-    positions.append(position);
-    std::sort(positions.begin(), positions.end());
 }
 
 void GradualValueToColor::parseHexToRGB(int color, int &r, int &g, int &b)
 {
-    const QString digits = QStringLiteral("00000") + QString::number(color, 16);
-    const auto channel = [&](qsizetype fromEnd) {
-        return digits.mid(digits.size() - fromEnd, 2).toInt(nullptr, 16);
-    };
-    r = channel(6);
-    g = channel(4);
-    b = channel(2);
+    r = color >> 16 & 0xFF;
+    g = color >> 8 & 0xFF;
+    b = color & 0xFF;
     qDebug() << "parse"
              << "red" << r << "green" << g << "blue" << b;
 }

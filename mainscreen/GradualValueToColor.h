@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QMap>
 #include <QString>
 #include <utility>
@@ -20,9 +19,9 @@ class GradualValueToColor
 {
 public:
     /// Sets the stop at 0; @p color is 0xRRGGBB.
-    void setStartColor(int color);
+    void setStartColor(int color) { setColorAt(0.0F, color); }
     /// Sets the stop at 1; @p color is 0xRRGGBB.
-    void setEndColor(int color);
+    void setEndColor(int color) { setColorAt(1.0F, color); }
     /// Sets the stop at @p position, 0 to 1, in place of one already there; @p color is 0xRRGGBB.
     void setColorAt(float position, int color);
 
@@ -35,7 +34,6 @@ public:
     QString colorAt(float value);
 
 private:
-    QList<float> positions;
     QMap<float, RGB> colors;
 };
 

@@ -2,7 +2,7 @@
 
 #include "mainscreen/BaseValue.h"
 
-/// The page of the relative humidity, in whole per cent.
+/// Shows the relative humidity, in whole per cent.
 class HumidityPage : public BaseValue
 {
     Q_OBJECT

@@ -7,7 +7,6 @@
 #include "mainscreen/StripGeometry.h"
 #include "mainscreen/TemperaturePage.h"
 #include "pages/Look.h"
-#include "pages/Quantity.h"
 
 #include <QGraphicsPixmapItem>
 #include <QGraphicsProxyWidget>
@@ -24,7 +23,6 @@ constexpr qreal backgroundLevel = 0;
 constexpr qreal pageLevel = 2;
 constexpr qreal overlayLevel = 3;
 constexpr int firstFrame = -1000;
-constexpr int firstPage = int(Quantity::Temperature);
 constexpr auto slideTime = 500ms;
 constexpr auto tick = 16ms;
 // In KB. The images of four proxies of the screen's size and every picture of the program share
@@ -44,13 +42,6 @@ MainView::MainView(QWidget *parent)
     animation_init();
 }
 
-MainView::~MainView() = default;
-
-BaseScene *MainView::overlay() const
-{
-    return baseScene;
-}
-
 void MainView::scene_init()
 {
     // A fixed rectangle: otherwise every step of a slide has the scene measured anew.
@@ -67,26 +58,23 @@ void MainView::scene_init()
 
     readingPages = {new PmPage, new TemperaturePage, new HumidityPage};
     for (BaseValue *page : std::as_const(readingPages))
-        pages.append(addCached(page, pageLevel));
+        addCached(page, pageLevel);
     baseScene = new BaseScene;
     addCached(baseScene, overlayLevel);
     background = graphicsScene.addPixmap(
         QPixmap(QStringLiteral(":/resource/images/mainPage/backgroud/backgroudMain.png")));
     background->setZValue(backgroundLevel);
     graphicsScene.setItemIndexMethod(QGraphicsScene::NoIndex);
-    gridPoints = {{0, 0}, {1, 0}, {2, 0}};
 
     change_page(firstFrame);
-    baseScene->change_currentPage(firstPage);
-    currentPage = firstPage;
+    baseScene->change_currentPage(currentPage);
 }
 
-QGraphicsProxyWidget *MainView::addCached(QWidget *widget, qreal z)
+void MainView::addCached(QWidget *widget, qreal z)
 {
     QGraphicsProxyWidget *proxy = graphicsScene.addWidget(widget);
     proxy->setZValue(z);
     proxy->setCacheMode(QGraphicsItem::ItemCoordinateCache);
-    return proxy;
 }
 
 void MainView::connect_init()
@@ -97,6 +85,7 @@ void MainView::connect_init()
         page->follow(scheduler);
     }
     connect(baseScene, &BaseScene::signal_jumpPage, this, &MainView::choose_page);
+    connect(baseScene, &BaseScene::shownPageChanged, this, &MainView::updateSight);
     baseScene->follow(scheduler);
 }
 
@@ -160,14 +149,34 @@ void MainView::choose_page(int page)
 void MainView::change_page(int frame)
 {
     position = float(frame) / Strip::framesPerPage;
-    for (qsizetype i = 0; i < pages.size(); ++i) {
-        const QPointF grid = gridPoints.at(i);
-        const int x = Strip::pageX(int(grid.x()), position, width());
-        pages.at(i)->setPos(x, height() * grid.y());
-        // A page beside the view still touches its edge and would be drawn, out of sight.
-        pages.at(i)->setOpacity(std::abs(x) < width() ? 1 : 0);
-    }
+    for (int i = 0; i < readingPages.size(); ++i)
+        readingPages[i]->graphicsProxyWidget()->setPos(Strip::pageX(i, position, width()), 0);
     background->setPos(Strip::backgroundX(position, width(), background->pixmap().width()), 0);
+    updateSight();
+}
+
+void MainView::updateSight()
+{
+    const bool isSeen = isVisible() && !baseScene->showsHistory();
+    for (BaseValue *page : std::as_const(readingPages)) {
+        QGraphicsProxyWidget *proxy = page->graphicsProxyWidget();
+        const bool inSight = isSeen && std::abs(proxy->x()) < width();
+        // A page beside the view still touches its edge and would be drawn, out of sight.
+        proxy->setOpacity(inSight ? 1 : 0);
+        page->setInSight(inSight);
+    }
+}
+
+void MainView::showEvent(QShowEvent *event)
+{
+    QGraphicsView::showEvent(event);
+    updateSight();
+}
+
+void MainView::hideEvent(QHideEvent *event)
+{
+    QGraphicsView::hideEvent(event);
+    updateSight();
 }
 
 void MainView::drawBackground(QPainter *painter, const QRectF &rect)

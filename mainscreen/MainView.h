@@ -1,15 +1,15 @@
 #pragma once
 
+#include "pages/Quantity.h"
+
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QList>
-#include <QPointF>
 
 class BaseScene;
 class BaseValue;
 class GetData;
 class QGraphicsPixmapItem;
-class QGraphicsProxyWidget;
 class QTimeLine;
 
 /// Shows the main screen: three reading pages on a strip that slides over a wide background, and
@@ -22,10 +22,9 @@ public:
     enum class SlideDirection { Left = 1, Right = 2 };
 
     explicit MainView(QWidget *parent = nullptr);
-    ~MainView() override;
 
     /// Gives out the overlay, whose signal_jumpToOption() asks for the settings.
-    BaseScene *overlay() const;
+    BaseScene *overlay() const { return baseScene; }
 
     /// Starts a slide by @p pages; negative is towards higher page numbers.
     void slide(int pages);
@@ -35,6 +34,8 @@ public:
 protected:
     /// Paints the brush only where the background picture does not lie.
     void drawBackground(QPainter *painter, const QRectF &rect) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 protected slots:
     /// Slides to the next / previous page. Ignored while a slide runs and at the ends.
@@ -46,12 +47,15 @@ protected slots:
 
 private slots:
     void change_page(int frame);
+    /// Lets the pages rest that cannot be seen: those beside the view, and all while the view is
+    /// hidden or covered by the history.
+    void updateSight();
 
 private:
     void scene_init();
     void connect_init();
     void animation_init();
-    QGraphicsProxyWidget *addCached(QWidget *widget, qreal z);
+    void addCached(QWidget *widget, qreal z);
     bool isSliding() const;
 
     QGraphicsScene graphicsScene;
@@ -59,9 +63,7 @@ private:
     float position = 0;
     QList<BaseValue *> readingPages;
     BaseScene *baseScene = nullptr;
-    QList<QGraphicsProxyWidget *> pages;
-    QList<QPointF> gridPoints;
     QGraphicsPixmapItem *background = nullptr;
     GetData *scheduler = nullptr;
-    int currentPage = 1;
+    int currentPage = int(Quantity::Temperature);
 };

@@ -19,9 +19,9 @@ constexpr int chamberHeight = 108;
 constexpr int entryHeight = 90;
 constexpr int granuleReach = 100;
 constexpr int granulesPerGroup = 4;
-constexpr std::chrono::milliseconds sweepTime = 5s;
-constexpr std::chrono::milliseconds smallGranuleTime = 15s;
-constexpr std::chrono::milliseconds largeGranuleTime = 13s;
+constexpr auto sweepTime = 5000ms;
+constexpr auto smallGranuleTime = 15000ms;
+constexpr auto largeGranuleTime = 13000ms;
 
 QPixmap picture(const QString &name)
 {
@@ -31,9 +31,6 @@ QPixmap picture(const QString &name)
 
 PmAnimation::PmAnimation(QWidget *parent)
     : QFrame(parent)
-    , granulesA(new QParallelAnimationGroup(this))
-    , sweepSequence(new QSequentialAnimationGroup(this))
-    , granulesB(new QParallelAnimationGroup(this))
     , whole(new QParallelAnimationGroup(this))
 {
     setObjectName(QStringLiteral("PmAnimation"));
@@ -57,17 +54,21 @@ void PmAnimation::init()
     bar->show();
     sensor->show();
 
-    initSweeps();
-    initGranuleGroup();
-    for (QAnimationGroup *group :
-         std::initializer_list<QAnimationGroup *>{granulesA, sweepSequence, granulesB})
-        whole->addAnimation(group);
+    whole->addAnimation(initGranuleGroup());
+    whole->addAnimation(newSweeps());
+    whole->addAnimation(initGranuleGroup());
     connect(whole, &QAbstractAnimation::finished, this, &PmAnimation::restart);
 }
 
 void PmAnimation::startAnimation()
 {
     whole->start();
+}
+
+void PmAnimation::setInSight(bool inSight)
+{
+    if (whole->state() == (inSight ? QAbstractAnimation::Paused : QAbstractAnimation::Running))
+        whole->setPaused(!inSight);
 }
 
 void PmAnimation::stopAnimation()
@@ -148,31 +149,27 @@ QPropertyAnimation *PmAnimation::getAnimation()
     return animation;
 }
 
-QPropertyAnimation *PmAnimation::newSweep(const QRect &from, const QRect &to)
+QAnimationGroup *PmAnimation::newSweeps()
 {
-    auto *sweep = new QPropertyAnimation(bar, "geometry");
-    sweep->setDuration(int(sweepTime.count()));
-    sweep->setStartValue(from);
-    sweep->setEndValue(to);
-    connect(sweep, &QVariantAnimation::valueChanged, this, &PmAnimation::repaintUI);
-    return sweep;
-}
-
-void PmAnimation::initSweeps()
-{
-    const QRect start = getScanningStartRectF();
-    const QRect end = getScanningEndRectF();
-    sweeps = {newSweep(start, end), newSweep(end, start), newSweep(start, end)};
-    for (QPropertyAnimation *sweep : {sweeps[0], sweeps[1]})
-        connect(sweep, &QAbstractAnimation::finished, this, &PmAnimation::changedScanning);
-    for (QPropertyAnimation *sweep : sweeps)
-        sweepSequence->addAnimation(sweep);
-}
-
-void PmAnimation::initGranuleGroup()
-{
-    for (QParallelAnimationGroup *group : {granulesA, granulesB}) {
-        for (int i = 0; i < granulesPerGroup; ++i)
-            group->addAnimation(getAnimation());
+    auto *sweeps = new QSequentialAnimationGroup;
+    for (const bool back : {false, true, false}) {
+        auto *sweep = new QPropertyAnimation(bar, "geometry");
+        sweep->setDuration(int(sweepTime.count()));
+        sweep->setStartValue(back ? getScanningEndRectF() : getScanningStartRectF());
+        sweep->setEndValue(back ? getScanningStartRectF() : getScanningEndRectF());
+        connect(sweep, &QVariantAnimation::valueChanged, this, &PmAnimation::repaintUI);
+        sweeps->addAnimation(sweep);
     }
+    for (const int turned : {0, 1})
+        connect(sweeps->animationAt(turned), &QAbstractAnimation::finished, this,
+                &PmAnimation::changedScanning);
+    return sweeps;
+}
+
+QAnimationGroup *PmAnimation::initGranuleGroup()
+{
+    auto *granules = new QParallelAnimationGroup;
+    for (int i = 0; i < granulesPerGroup; ++i)
+        granules->addAnimation(getAnimation());
+    return granules;
 }

@@ -2,14 +2,13 @@
 
 #include <QFrame>
 #include <QRandomGenerator>
-#include <array>
 
+class QAnimationGroup;
 class QLabel;
 class QParallelAnimationGroup;
 class QPropertyAnimation;
-class QSequentialAnimationGroup;
 
-/// The animation of a PM2.5 measurement: a bar sweeps over the sensor while dust drifts past it.
+/// Shows that a PM2.5 measurement runs: a bar sweeps over the sensor while dust drifts past it.
 /// Loops until it is stopped. GUI thread.
 class PmAnimation : public QFrame
 {
@@ -23,6 +22,8 @@ public:
     void init();
 
     void startAnimation();
+    /// Halts a running animation while it is not @p inSight.
+    void setInSight(bool inSight);
     /// Stops the animation where it is and hides the widget.
     void stopAnimation();
 
@@ -43,17 +44,12 @@ private:
     QPoint getGranuleStartPoint();
     QPoint getGranuleEndPoint();
     QPropertyAnimation *getAnimation();
-    QPropertyAnimation *newSweep(const QRect &from, const QRect &to);
-    void initSweeps();
-    void initGranuleGroup();
+    QAnimationGroup *newSweeps();
+    QAnimationGroup *initGranuleGroup();
 
     QFrame *sensor = nullptr;
     QLabel *bar = nullptr;
     int scanCounter = 0;
-    std::array<QPropertyAnimation *, 3> sweeps{};
-    QParallelAnimationGroup *granulesA;
-    QSequentialAnimationGroup *sweepSequence;
-    QParallelAnimationGroup *granulesB;
     QParallelAnimationGroup *whole;
     QRandomGenerator random;
 };

@@ -1,5 +1,7 @@
 #include "mainscreen/PmColorGenerator.h"
 
+#include <algorithm>
+
 PmColorGenerator::PmColorGenerator()
 {
     setStartColor(0x64DD17);
@@ -10,12 +12,6 @@ PmColorGenerator::PmColorGenerator()
 
 QColor PmColorGenerator::colorOfPm(float pm)
 {
-    const auto lower = float(lowerBound);
-    const auto upper = float(upperBound);
-    float t = (pm - lower) / (upper - lower);
-    if (pm < lower)
-        t = 0.0F;
-    else if (pm > upper)
-        t = 1.0F;
-    return QColor(colorAt(t));
+    constexpr float upperBound = 500.0F;
+    return QColor(colorAt(std::clamp(pm / upperBound, 0.0F, 1.0F)));
 }

@@ -11,11 +11,7 @@ class PmColorGenerator : public GradualValueToColor
 public:
     PmColorGenerator();
 
-    /// The colour of the concentration @p pm in µg/m³. Below 0 and NaN give the colour of 0, above
-    /// 500 that of 500.
+    /// Gives the colour of the concentration @p pm in µg/m³. Below 0 and NaN give the colour of 0,
+    /// above 500 that of 500.
     QColor colorOfPm(float pm);
-
-private:
-    int lowerBound = 0;
-    int upperBound = 500;
 };

@@ -21,7 +21,7 @@ PmPage::PmPage(QWidget *parent)
     , ownScheduler(std::make_unique<GetData>())
 {
     setObjectName(QStringLiteral("PmPage"));
-    hideUnit();
+    ui->label_symbol->hide();
     ui->label_units->setAlignment(Qt::AlignRight);
     update_currentData(valueAtStart);
 
@@ -33,7 +33,7 @@ PmPage::PmPage(QWidget *parent)
     scanSurface->hide();
 
     connect(ownScheduler.get(), &GetData::signal_updatePMData, this, &PmPage::update_pmData);
-    connect(number(), &OptionFrame::clicked, this, &PmPage::ShowAnimation);
+    connect(ui->frame_value, &OptionFrame::clicked, this, &PmPage::ShowAnimation);
     connect(scanSurface, &OptionFrame::clicked, this, &PmPage::ShowAnimation);
 }
 
@@ -42,6 +42,11 @@ PmPage::~PmPage() = default;
 void PmPage::follow(const GetData *scheduler)
 {
     connect(scheduler, &GetData::signal_updatePMData, this, &PmPage::update_currentData);
+}
+
+void PmPage::setInSight(bool inSight)
+{
+    animation->setInSight(inSight);
 }
 
 void PmPage::update_pmData(int iValue)
@@ -74,7 +79,7 @@ void PmPage::ShowAnimation()
 void PmPage::setScanning(bool scanning)
 {
     busy = scanning;
-    numberArea()->setVisible(!scanning);
+    ui->frame_center->setVisible(!scanning);
     scanSurface->setVisible(scanning);
     if (scanning) {
         animation->show();

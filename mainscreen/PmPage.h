@@ -2,9 +2,10 @@
 
 #include "mainscreen/BaseValue.h"
 
+class OptionFrame;
 class PmAnimation;
 
-/// The page of the PM2.5 value, in ug/m3 as the sensor reports it. A tap on the number asks the
+/// Shows the PM2.5 value, in ug/m3 as the sensor reports it. A tap on the number asks the
 /// sensor for a measurement and shows the scanning animation until it arrives.
 class PmPage : public BaseValue
 {
@@ -15,9 +16,10 @@ public:
     ~PmPage() override;
 
     void follow(const GetData *scheduler) override;
+    void setInSight(bool inSight) override;
 
 public slots:
-    /// The measurement has arrived: ends the animation and shows @p iValue.
+    /// Ends the animation and shows @p iValue, the measurement that was asked for.
     void update_pmData(int iValue);
 
 protected slots:
@@ -31,7 +33,6 @@ private:
 
     bool busy = false;
     PmAnimation *animation;
-    // Takes the tap while the number it stands for is hidden.
-    OptionFrame *scanSurface;
+    OptionFrame *scanSurface; ///< takes the taps while the number is hidden
     std::unique_ptr<GetData> ownScheduler;
 };

@@ -2,7 +2,7 @@
 
 #include "mainscreen/BaseValue.h"
 
-/// The page of the temperature, in whole degrees Celsius. Shows two dashes until the first reading.
+/// Shows the temperature, in whole degrees Celsius, and two dashes until the first reading.
 class TemperaturePage : public BaseValue
 {
     Q_OBJECT

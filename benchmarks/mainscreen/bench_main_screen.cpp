@@ -52,7 +52,7 @@ void firstPicture(benchmark::State &state)
     Yardstick::check(state, medianOf(product) / medianOf(bare), limit);
 }
 
-/// The main window on the screen, with its view.
+// The main window on the screen, with its view.
 struct Screen
 {
     Screen()

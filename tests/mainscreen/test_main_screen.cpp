@@ -1,16 +1,16 @@
 #include "acquisition/GetData.h"
-#include "mainscreen/BaseScene.h"
 #include "mainscreen/MainView.h"
+#include "mainscreen/PmAnimation.h"
 #include "shell/MainWindow.h"
 #include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
-#include "testkit/PseudoTerminal.h"
 #include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
 #include <QGraphicsProxyWidget>
 #include <QLabel>
+#include <QPropertyAnimation>
 #include <QSignalSpy>
 #include <QTimeLine>
 #include <QTimer>
@@ -26,7 +26,7 @@ struct Way
     QString tile;
     int position;
     int backgroundX;
-    int page;
+    QString hiddenTile;
 };
 
 struct Reading
@@ -35,6 +35,12 @@ struct Reading
     int reading;
     QString text;
     int width;
+};
+
+struct Cover
+{
+    const char *name;
+    QString button;
 };
 } // namespace
 
@@ -59,17 +65,20 @@ private slots:
     void swipesAndTileTaps_data()
     {
         // The tiles count from 1, the strip from 0: this is where they lead on this device.
-        addRows<Way>({{"a press that does not move", {0}, "", -1, -199, 2},
-                      {"a pixel to the left", {-1}, "", -2, -370, 3},
-                      {"far to the right", {120}, "", 0, -29, 1},
-                      {"on humidity nothing follows", {-9, -9, 9}, "", -1, -199, 2},
-                      {"on PM2.5 nothing precedes", {9, 9, -9}, "", -1, -199, 2},
-                      {"PM2.5 tile on temperature", {}, "frame_pm", -1, -199, 2},
-                      {"PM2.5 tile on humidity", {-9}, "frame_pm", -1, -199, 3},
-                      {"temperature tile on PM2.5", {9}, "frame_temperature", -2, -370, 1},
-                      {"temperature tile on humidity", {-9}, "frame_temperature", -2, -370, 3},
-                      {"humidity tile on temperature", {}, "frame_humidity", -3, -541, 2},
-                      {"humidity tile on PM2.5", {9}, "frame_humidity", -3, -541, 1}});
+        const QString pm = "frame_pm";
+        const QString temperature = "frame_temperature";
+        const QString humidity = "frame_humidity";
+        addRows<Way>({{"a press that does not move", {0}, "", -1, -199, temperature},
+                      {"a pixel to the left", {-1}, "", -2, -370, humidity},
+                      {"far to the right", {120}, "", 0, -29, pm},
+                      {"on humidity nothing follows", {-9, -9, 9}, "", -1, -199, temperature},
+                      {"on PM2.5 nothing precedes", {9, 9, -9}, "", -1, -199, temperature},
+                      {"PM2.5 tile on temperature", {}, pm, -1, -199, temperature},
+                      {"PM2.5 tile on humidity", {-9}, pm, -1, -199, humidity},
+                      {"temperature tile on PM2.5", {9}, temperature, -2, -370, pm},
+                      {"temperature tile on humidity", {-9}, temperature, -2, -370, humidity},
+                      {"humidity tile on temperature", {}, humidity, -3, -541, temperature},
+                      {"humidity tile on PM2.5", {9}, humidity, -3, -541, pm}});
     }
 
     void swipesAndTileTaps()
@@ -82,7 +91,7 @@ private slots:
         QCOMPARE(position(), row.position);
         // The background lies below everything else.
         QCOMPARE(int(view->scene()->items(Qt::AscendingOrder).first()->x()), row.backgroundX);
-        verifyOverlayOf(row.page);
+        QVERIFY(!embedded(row.hiddenTile)->isVisible());
         if (row.position == -3)
             QCOMPARE(window->grab().toImage().pixelColor(850, 479), QColor(0x07, 0x0b, 0x0e));
     }
@@ -96,16 +105,12 @@ private slots:
         drag(window.get(), {647, 240}, {600, 240});
         endSlide();
         QCOMPARE(position(), -2);
-        QSignalSpy options(view->overlay(), &BaseScene::signal_jumpToOption);
-        tap("button_option");
-        QCOMPARE(options.count(), 1);
     }
 
     void readingsReachTilesAndPages_data()
     {
         // The first page is that of PM2.5; its row is as wide as what it shows.
-        addRows<Reading>({{"nothing", 0, "0", 329},
-                          {"below zero", -5, "-5", 329},
+        addRows<Reading>({{"below zero", -5, "-5", 329},
                           {"four places", 1023, "1023", 433},
                           {"not credible", 10000, "10000", 329},
                           {"the smallest int", INT_MIN, "-2147483648", 329},
@@ -129,24 +134,46 @@ private slots:
             QCOMPARE(!embedded(name)->isHidden(), row.reading != 9999);
     }
 
-    void tapOnTheNumberMeasures()
+    void aScanRunsInPlaceOfTheNumberWhileItIsInSight_data()
     {
-        const PseudoTerminal terminal;
-        Environment::writeDeviceFile("/dev/Boost_En", "0");
+        addRows<Cover>({{"history", "button_history"},
+                        {"history by its clock", "button_historyLogo"},
+                        {"settings", "button_option"}});
+    }
+
+    void aScanRunsInPlaceOfTheNumberWhileItIsInSight()
+    {
+        QFETCH(Cover, row);
         swipe(9);
-        MessageLog log;
-        auto *animation = embedded("PmAnimation");
+        const MessageLog log;
+        auto *scan = embedded("PmAnimation");
+        const auto *granule = scan->findChild<QPropertyAnimation *>();
         // The second tap meets the sensor's picture.
         for (const QPoint place : {pmNumber, pmNumber - QPoint(60, 0)}) {
             tapAt(window.get(), place);
-            QVERIFY(animation->isVisible());
-            QVERIFY(!embedded("frame_center")->isVisible());
+            QCOMPARE(embedded("frame_center")->isVisible(), !scan->isVisible());
         }
         QCOMPARE(log.count("启动PM2.5检测"), 2);
-        QVERIFY(!log.contains("待添加错误处理逻辑"));
-        callSlot(animation->parentWidget(), "update_pmData", Q_ARG(int, 35));
-        QVERIFY(log.contains("update_pmData 35"));
-        QVERIFY(!animation->isVisible());
+        tap(row.button);
+        QTRY_COMPARE(granule->state(), QAbstractAnimation::Paused);
+        // Another one goes on meanwhile.
+        PmAnimation other;
+        other.init();
+        other.startAnimation();
+        const QSignalSpy turns(granule, &QVariantAnimation::valueChanged);
+        const QSignalSpy otherTurns(other.findChild<QPropertyAnimation *>(),
+                                    &QVariantAnimation::valueChanged);
+        QTRY_VERIFY(otherTurns.count() > 9);
+        QCOMPARE(turns.count(), 0);
+        // A finger on what covers the page does not reach it.
+        drag(window.get(), {400, 300}, {300, 300});
+        QCOMPARE(timeLine->state(), QTimeLine::NotRunning);
+        tapAt(window.get(), {47, 40});
+        QCOMPARE(granule->state(), QAbstractAnimation::Running);
+        swipe(-9);
+        QCOMPARE(granule->state(), QAbstractAnimation::Paused);
+        callSlot(scan->parentWidget(), "update_pmData", Q_ARG(int, 35));
+        QVERIFY(!scan->isVisible());
         QVERIFY(embedded("frame_center")->isVisible());
     }
 
@@ -167,25 +194,8 @@ private slots:
         tap("frame_pm");
         QTRY_COMPARE(timeLine->state(), QTimeLine::NotRunning);
         QCOMPARE(position(), -2);
-        verifyOverlayOf(3);
+        QVERIFY(!embedded("frame_humidity")->isVisible());
         QCOMPARE(timeLine->duration(), 500);
-    }
-
-    void historySlidesInAndBack()
-    {
-        auto *history = embedded("page_history");
-        for (const char *button : {"button_history", "button_historyLogo"}) {
-            tap(button);
-            QTRY_COMPARE(history->geometry(), QRect(0, 0, 854, 480));
-            QTRY_VERIFY(!embedded("page_scene")->isVisible());
-            // A finger on the chart explores it; the page below does not move.
-            drag(window.get(), {400, 300}, {300, 300});
-            QCOMPARE(timeLine->state(), QTimeLine::NotRunning);
-            QTRY_VERIFY(embedded("frame_top")->isVisible());
-            tapAt(window.get(), {47, 40});
-            QVERIFY(!history->isVisible());
-            QVERIFY(embedded("page_scene")->isVisible());
-        }
     }
 
 private:
@@ -208,25 +218,7 @@ private:
     }
 
     void tap(const QString &name) { tapAt(window.get(), centre(name)); }
-    double position() const
-    {
-        return embedded("frame_center")->window()->graphicsProxyWidget()->x() / 854;
-    }
-
-    /// Tiles of the other two pages, name or sign of this one, its unit where its number has none.
-    void verifyOverlayOf(int page) const
-    {
-        int tile = 0;
-        for (const char *name : {"frame_pm", "frame_temperature", "frame_humidity"})
-            QCOMPARE(embedded(name)->isVisible(), ++tile != page);
-        const QStringList signs{"", ":/resource/images/mainPage/logo/logoTemperature.png",
-                                ":/resource/images/mainPage/logo/logoHumidity.png"};
-        const auto *logo = qobject_cast<QLabel *>(embedded("label_logo"));
-        QCOMPARE(logo->text(), page == 1 ? "PM2.5" : "");
-        QCOMPARE(logo->pixmap(Qt::ReturnByValue).toImage(), QPixmap(signs[page - 1]).toImage());
-        QCOMPARE(embedded("label_unit")->isVisible(), page == 1);
-        QVERIFY(!embedded("label_2")->isVisible());
-    }
+    double position() const { return embedded("frame_center")->window()->x() / 854.0; }
 
     void report(int reading) const
     {

@@ -1,37 +1,52 @@
 #include "mainscreen/DigitRow.h"
 #include "mainscreen/HumidityPage.h"
+#include "mainscreen/PmAnimation.h"
+#include "mainscreen/PmColorGenerator.h"
 #include "mainscreen/TemperaturePage.h"
+#include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
+#include "testkit/TableRows.h"
 
+#include <QAbstractAnimation>
 #include <QLabel>
+#include <cmath>
 
 namespace {
+struct Shade
+{
+    const char *name;
+    float value;
+    QString color;
+};
+
+/// A value and how the pages write it: digits, "-" for a dash and "_" for an empty place.
+struct Value
+{
+    const char *name;
+    int value;
+    QString pm;
+    QString temperature;
+    QString humidity;
+};
+
 QString written(const std::optional<DigitRow> &row)
 {
-    if (!row)
-        return QStringLiteral("unchanged");
+    const QMap<Glyph, QString> signs{{glyphHidden, ""}, {glyphBlank, "_"}, {glyphDash, "-"}};
     QString text;
-    for (const Glyph glyph : {row->minus, row->hundreds, row->tens, row->units}) {
-        if (glyph != glyphHidden)
-            text += glyph >= 0 ? QString::number(glyph) : glyph == glyphDash ? "-" : "_";
-    }
-    return text + QStringLiteral(" %1").arg(row->width);
+    for (const Glyph glyph : {row->minus, row->hundreds, row->tens, row->units})
+        text += signs.value(glyph, QString::number(glyph));
+    return text;
 }
 
-QLabel *place(const QWidget &page, const char *name)
+QImage pictureOf(Glyph glyph)
 {
-    return page.findChild<QLabel *>(name);
+    return QPixmap(glyphPicture(glyph)).toImage();
 }
 
-bool shows(const QLabel *label, Glyph glyph)
+QImage pictureIn(const QWidget &page, const char *label)
 {
-    return label->pixmap(Qt::ReturnByValue).toImage() == QPixmap(glyphPicture(glyph)).toImage();
-}
-
-void update(QWidget &page, int value)
-{
-    QVERIFY(QMetaObject::invokeMethod(&page, "update_currentData", Q_ARG(int, value)));
+    return page.findChild<QLabel *>(label)->pixmap(Qt::ReturnByValue).toImage();
 }
 } // namespace
 
@@ -40,54 +55,118 @@ class TestReadingPages : public QObject
     Q_OBJECT
 
 private slots:
-    void rows()
+    void placesOfAValue_data()
     {
-        const std::tuple<int, const char *, const char *, const char *> rows[] = {
-            {5, "005 329", "05 298", "05 273"},       {100, "100 329", "_0 298", "_0 273"},
-            {999, "999 329", "_9 298", "_9 273"},     {1000, "1000 433", "_0 298", "_0 273"},
-            {9998, "9998 433", "_8 298", "_8 273"},   {9999, "-- 225", "-- 298", "-- 273"},
-            {10000, "unchanged", "_0 298", "_0 273"}, {-5, "00_ 329", "-05 402", "0_ 273"},
-            {-230, "__0 329", "-_0 402", "_0 273"},   {INT_MIN, "___ 329", "-_8 402", "__ 273"}};
-        for (const auto &[value, pm, temperature, humidity] : rows) {
-            QCOMPARE(written(pmRow(value)), pm);
-            QCOMPARE(written(temperatureRow(value)), temperature);
-            QCOMPARE(written(humidityRow(value)), humidity);
-        }
+        addRows<Value>({{"one digit", 5, "005", "05", "05"},
+                        {"three digits", 100, "100", "_0", "_0"},
+                        {"last of three digits", 999, "999", "_9", "_9"},
+                        {"four digits", 1000, "1000", "_0", "_0"},
+                        {"last credible one", 9998, "9998", "_8", "_8"},
+                        {"missing", 9999, "--", "--", "--"},
+                        {"below zero", -5, "00_", "-05", "0_"},
+                        {"far below zero", -230, "__0", "-_0", "_0"},
+                        {"the smallest int", INT_MIN, "___", "-_8", "__"}});
     }
 
-    void pagesDrawTheRowCentred()
+    void placesOfAValue()
     {
-        TemperaturePage page;
-        const auto *frame = page.findChild<QWidget *>("frame_value");
-        // No value before the first reading; what 9999 takes away does not come back.
-        const std::tuple<int, const char *, int, int, Glyph, bool> steps[] = {
-            {0, "label_tens", 182, 182, glyphDash, true},
-            {-23, "label_minus", 130, 130, 3, true},
-            {9999, "label_tens", 182, 218, glyphDash, false},
-            {104, "label_units", 182, 322, 4, false}};
-        for (const auto &[value, first, frameX, firstX, units, unit] : steps) {
-            if (value != 0)
-                update(page, value);
-            QCOMPARE(frame->x(), frameX);
-            QCOMPARE(frameX + place(page, first)->x(), firstX);
-            QVERIFY2(shows(place(page, "label_units"), units), first);
-            QCOMPARE(!place(page, "label_symbol")->isHidden(), unit);
-        }
-        QVERIFY(shows(place(page, "label_tens"), glyphBlank));
+        QFETCH(Value, row);
+        QCOMPARE(written(pmRow(row.value)), row.pm);
+        QCOMPARE(written(temperatureRow(row.value)), row.temperature);
+        QCOMPARE(written(humidityRow(row.value)), row.humidity);
+        QVERIFY(!pmRow(10000));
     }
 
-    void humidityStartsAtFortyAndLogsAMissingReading()
+    void aMissingReadingTakesTheUnitAway()
     {
-        HumidityPage page;
-        QVERIFY(shows(place(page, "label_tens"), 4) && shows(place(page, "label_units"), 0));
-        QCOMPARE(place(page, "label_symbol")->width(), 65);
-        MessageLog log;
-        update(page, 9999);
-        update(page, 21);
-        QCOMPARE(log.lines(), QStringList("Error Hum number:9999"));
-        QVERIFY(place(page, "label_symbol")->isHidden());
-        update(page, -21);
-        QCOMPARE(log.lines().last(), "\"HumidityPage\" has no picture for a digit of its reading");
+        const TemperaturePage temperature;
+        QCOMPARE(pictureIn(temperature, "label_tens"), pictureOf(glyphDash));
+        QVERIFY(!temperature.findChild<QLabel *>("label_symbol")->isHidden());
+        HumidityPage humidity;
+        QCOMPARE(pictureIn(humidity, "label_tens"), pictureOf(4));
+        QCOMPARE(pictureIn(humidity, "label_units"), pictureOf(0));
+        const MessageLog log;
+        for (const int reading : {9999, 21, -21})
+            callSlot(&humidity, "update_currentData", Q_ARG(int, reading));
+        QCOMPARE(log.lines(),
+                 QStringList({"Error Hum number:9999",
+                              "\"HumidityPage\" has no picture for a digit of its reading"}));
+        QVERIFY(humidity.findChild<QLabel *>("label_symbol")->isHidden());
+        QCOMPARE(pictureIn(humidity, "label_tens"), pictureOf(glyphBlank));
+    }
+
+    void barSweepsOutAndBackAndOutUntilItIsStopped()
+    {
+        PmAnimation animation;
+        animation.init();
+        animation.startAnimation();
+        auto *whole = animation.findChild<QAbstractAnimation *>({}, Qt::FindDirectChildrenOnly);
+        const auto *bar = animation.findChild<QLabel *>("label_scanning");
+        const QImage outward = pictureIn(animation, "label_scanning");
+        QCOMPARE(bar->geometry(), QRect(118, 16, 19, 112));
+        whole->setCurrentTime(2500);
+        QCOMPARE(bar->geometry(), QRect(209, 16, 19, 112));
+        whole->setCurrentTime(5001);
+        QCOMPARE(bar->geometry(), QRect(299, 16, 19, 112));
+        QVERIFY(pictureIn(animation, "label_scanning") != outward);
+        whole->setCurrentTime(12500);
+        QCOMPARE(bar->geometry(), QRect(209, 16, 19, 112));
+        QCOMPARE(pictureIn(animation, "label_scanning"), outward);
+        whole->setCurrentTime(15000);
+        QCOMPARE(whole->state(), QAbstractAnimation::Running);
+        QVERIFY(whole->currentTime() < 1000);
+        animation.stopAnimation();
+        QCOMPARE(whole->state(), QAbstractAnimation::Stopped);
+    }
+
+    void concentrations_data()
+    {
+        addRows<Shade>({{"none", 0, "#64dd17"},
+                        {"most", 500, "#ba1650"},
+                        {"below none", -9e9F, "#64dd17"},
+                        {"above most", 9e9F, "#ba1650"},
+                        {"no number", NAN, "#64dd17"},
+                        {"second stop", 166.65F, "#ffeb3b"},
+                        {"third stop", 333.3F, "#f44336"},
+                        {"between stops", 83.325F, "#b1e429"}});
+    }
+
+    void concentrations()
+    {
+        QFETCH(Shade, row);
+        const MessageLog log;
+        PmColorGenerator scale;
+        QCOMPARE(log.lines().first(), QString("parse red 100 green 221 blue 23"));
+        QCOMPARE(scale.colorOfPm(row.value).name(), row.color);
+    }
+
+    void blends_data()
+    {
+        addRows<Shade>({{"between equal stops", 0.6F, "#804020"},
+                        {"towards the end", 0.9F, "#33b2a5"},
+                        {"below the first stop, from black", 0.25F, "#03f3f"},
+                        {"twice the end", 2, "#01fffe"},
+                        {"as far before the beginning", -1, "#ffff01"},
+                        {"more than an int holds", 1e30F, "#ffff80"},
+                        {"without end", INFINITY, "#ffff80"}});
+    }
+
+    void blends()
+    {
+        QFETCH(Shade, row);
+        GradualValueToColor scale;
+        scale.setColorAt(0.5F, 0x804020);
+        scale.setColorAt(0.75F, 0x804020);
+        scale.setEndColor(0x00FFFF);
+        QCOMPARE(scale.colorAt(row.value), row.color);
+    }
+
+    void aReadInsertsTheEndsInBlack()
+    {
+        GradualValueToColor scale;
+        scale.setColorAt(0.5F, 0x804020);
+        QCOMPARE(scale.colorAt(0.25F), QString("#00"));
+        QCOMPARE(scale.colorAt(0.25F), QString("#402010"));
     }
 };
 
