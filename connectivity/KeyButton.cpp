@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QMap>
 #include <QPainter>
+#include <QPointer>
 
 // How a kind of key looks; the pictures fill the whole cell.
 struct KeyLook
@@ -78,8 +79,23 @@ KeyButton::KeyButton(KeyKind kind, QWidget *parent)
 
 bool KeyButton::event(QEvent *event)
 {
-    // Polishing is where the style sheet would get hold of the key.
-    return event->type() == QEvent::Polish || QPushButton::event(event);
+    switch (event->type()) {
+    case QEvent::Polish:
+        // This is where the style sheet would get hold of the key.
+        return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease: {
+        // A button paints itself at once, and what its signals change a second time.
+        const QPointer<QWidget> guard(this);
+        setUpdatesEnabled(false);
+        QPushButton::event(event);
+        if (guard)
+            setUpdatesEnabled(true);
+        return true;
+    }
+    default:
+        return QPushButton::event(event);
+    }
 }
 
 bool KeyButton::hitButton(const QPoint &position) const
@@ -106,9 +122,15 @@ void KeyButton::paintEvent(QPaintEvent *)
         area.moveCenter(rect().center());
         icon().paint(&painter, area);
     }
-    if (text().isEmpty())
-        return;
+    // Laid out once: with each press the keys under the enlarged label are painted as well.
+    if (laidOut != text()) {
+        laidOut = text();
+        label.setText(QString(laidOut).replace(QLatin1String("&&"), QLatin1String("&")));
+        label.setTextFormat(Qt::PlainText);
+        label.prepare({}, keyFont());
+    }
     painter.setFont(keyFont());
     painter.setPen(isDown() ? Look::ink : look.text);
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic, text());
+    const QSizeF room = QSizeF(size()) - label.size();
+    painter.drawStaticText(QPointF(room.width(), room.height()) / 2, label);
 }

@@ -3,6 +3,7 @@
 #include "connectivity/KeyLayout.h"
 
 #include <QPushButton>
+#include <QStaticText>
 
 struct KeyLook;
 
@@ -26,4 +27,6 @@ protected:
 
 private:
     const KeyLook &look;
+    QString laidOut;
+    QStaticText label;
 };

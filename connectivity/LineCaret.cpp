@@ -46,11 +46,12 @@ LineCaret::LineCaret(QLineEdit *line)
     show();
 }
 
-bool LineCaret::eventFilter(QObject *watched, QEvent *event)
+bool LineCaret::eventFilter(QObject * /*watched*/, QEvent *event)
 {
-    if (watched == edit && event->type() == QEvent::Resize)
+    if (event->type() == QEvent::Resize)
         setGeometry(edit->rect());
-    return QWidget::eventFilter(watched, event);
+    // The mask of the font, which nobody sees, is costly to draw.
+    return event->type() == QEvent::Paint && edit->echoMode() == QLineEdit::Password;
 }
 
 void LineCaret::paintEvent(QPaintEvent *)
