@@ -33,58 +33,41 @@ KeyBorad::~KeyBorad() = default;
 
 void KeyBorad::buildKeys()
 {
-    const std::pair<KeyPage, QWidget *> pages[] = {
-        {KeyPage::Lowercase, ui->page_lowercase},
-        {KeyPage::Uppercase, ui->page_uppercase},
-        {KeyPage::Symbol, ui->page_symbol},
-    };
-    for (const auto &[keyPage, page] : pages) {
-        for (const KeyPlace &place : keyPlaces(keyPage)) {
-            KeyButton *key =
-                place.kind == KeyKind::Character ? characterKey(page) : wideKey(place.kind, page);
+    for (const KeyPage face : {KeyPage::Lowercase, KeyPage::Uppercase, KeyPage::Symbol}) {
+        QWidget *page = ui->stackedWidget->widget(int(face));
+        for (const KeyPlace &place : keyPlaces(face)) {
+            KeyButton *key = newKey(place.kind, page);
             key->setObjectName(place.objectName);
             if (!place.text.isEmpty())
                 key->setText(tr(place.text.toUtf8().constData()));
             key->setGeometry(place.area);
         }
     }
-    ui->stackedWidget->setCurrentWidget(ui->page_lowercase);
 }
 
-KeyButton *KeyBorad::characterKey(QWidget *page)
+KeyButton *KeyBorad::newKey(KeyKind kind, QWidget *page)
 {
-    auto *key = new CharacterButton(page);
-    connect(key, &CharacterButton::signal_value, this,
-            qOverload<const QString &>(&KeyBorad::add_character));
-    return key;
-}
-
-KeyButton *KeyBorad::wideKey(KeyKind kind, QWidget *page)
-{
+    if (kind == KeyKind::Character) {
+        auto *key = new CharacterButton(page);
+        connect(key, &CharacterButton::signal_value, this,
+                qOverload<const QString &>(&KeyBorad::add_character));
+        return key;
+    }
     auto *key = new KeyButton(kind, page);
-    switch (kind) {
-    case KeyKind::Shift:
+    if (kind == KeyKind::Shift)
         key->setIcon(keyIcon("shiftIconNormal"));
-        break;
-    case KeyKind::ShiftOn:
+    else if (kind == KeyKind::ShiftOn)
         key->setIcon(keyIcon("shiftIconHover"));
-        break;
-    case KeyKind::Delete:
+    else if (kind == KeyKind::Blank)
+        connect(key, &QPushButton::clicked, this, qOverload<>(&KeyBorad::add_character));
+    else if (kind == KeyKind::Enter)
+        connect(key, &QPushButton::clicked, this, &KeyBorad::complete_input);
+    else if (kind == KeyKind::Delete) {
         key->setIcon(deleteIcon);
         deleteKeys.append(key);
         connect(key, &QPushButton::clicked, this, &KeyBorad::delete_character);
         connect(key, &QPushButton::pressed, this, &KeyBorad::change_pressedIcon);
         connect(key, &QPushButton::released, this, &KeyBorad::change_releasedIcon);
-        break;
-    case KeyKind::Blank:
-        connect(key, &QPushButton::clicked, this, qOverload<>(&KeyBorad::add_character));
-        break;
-    case KeyKind::Enter:
-        connect(key, &QPushButton::clicked, this, &KeyBorad::complete_input);
-        break;
-    case KeyKind::Function:
-    case KeyKind::Character:
-        break;
     }
     return key;
 }
@@ -141,18 +124,13 @@ void KeyBorad::on_button_shiftChecked_pressed()
 
 void KeyBorad::on_button_symbol_clicked()
 {
-    showSymbols();
+    letterPage = ui->stackedWidget->currentIndex();
+    ui->stackedWidget->setCurrentWidget(ui->page_symbol);
 }
 
 void KeyBorad::on_button_symbol_2_clicked()
 {
-    showSymbols();
-}
-
-void KeyBorad::showSymbols()
-{
-    letterPage = ui->stackedWidget->currentIndex();
-    ui->stackedWidget->setCurrentWidget(ui->page_symbol);
+    on_button_symbol_clicked();
 }
 
 void KeyBorad::on_button_character_clicked()

@@ -52,10 +52,8 @@ public slots:
 
 private:
     void buildKeys();
-    KeyButton *characterKey(QWidget *page);
-    KeyButton *wideKey(KeyKind kind, QWidget *page);
+    KeyButton *newKey(KeyKind kind, QWidget *page);
     void findLineEdit();
-    void showSymbols();
     void setDeleteIcon(const QIcon &icon);
 
     std::unique_ptr<Ui::KeyBorad> ui;

@@ -1,80 +1,9 @@
 #include "connectivity/KeyLayout.h"
 
+#include "pages/Look.h"
+
 namespace {
 constexpr int firstRowTop = 176;
-constexpr int rowHeight = characterKeySize.height();
-constexpr const char *spaceText = QT_TRANSLATE_NOOP("KeyBorad", "空格");
-constexpr const char *doneText = QT_TRANSLATE_NOOP("KeyBorad", "完成");
-
-struct WideKey
-{
-    KeyKind kind;
-    const char *objectName;
-    const char *text = "";
-};
-
-struct KeyRow
-{
-    int left;
-    QList<WideKey> before;
-    const char *characters;
-    QList<WideKey> after;
-};
-
-const QList<KeyRow> lowercaseRows{
-    {7, {}, "1234567890", {}},
-    {7, {}, "qwertyuiop", {}},
-    {49, {}, "asdfghjkl", {}},
-    {4, {{KeyKind::Shift, "button_shiftNormal"}}, "zxcvbnm", {{KeyKind::Delete, "button_delete"}}},
-    {4,
-     {{KeyKind::Function, "button_symbol", "#+="},
-      {KeyKind::Blank, "button_blank", spaceText},
-      {KeyKind::Enter, "button_enter", doneText}},
-     "",
-     {}},
-};
-
-const QList<KeyRow> uppercaseRows{
-    {7, {}, "1234567890", {}},
-    {7, {}, "QWERTYUIOP", {}},
-    {49, {}, "ASDFGHJKL", {}},
-    {4,
-     {{KeyKind::ShiftOn, "button_shiftChecked"}},
-     "ZXCVBNM",
-     {{KeyKind::Delete, "button_delete_2"}}},
-    {4,
-     {{KeyKind::Function, "button_symbol_2", "#+="},
-      {KeyKind::Blank, "button_blank_2", spaceText},
-      {KeyKind::Enter, "button_enter_2", doneText}},
-     "",
-     {}},
-};
-
-const QList<KeyRow> symbolRows{
-    {91, {}, "~@#$%^&_", {}},
-    {91, {}, "`|\\/*+-=", {}},
-    {49, {}, "()[]{}<>'", {}},
-    {68, {}, "\":;?!,.", {{KeyKind::Delete, "button_delete_3"}}},
-    {4,
-     {{KeyKind::Function, "button_character", "abc"},
-      {KeyKind::Blank, "button_blank_3", spaceText},
-      {KeyKind::Enter, "button_enter_3", doneText}},
-     "",
-     {}},
-};
-
-const QList<KeyRow> &rowsOf(KeyPage page)
-{
-    switch (page) {
-    case KeyPage::Uppercase:
-        return uppercaseRows;
-    case KeyPage::Symbol:
-        return symbolRows;
-    case KeyPage::Lowercase:
-        break;
-    }
-    return lowercaseRows;
-}
 
 int widthOf(KeyKind kind)
 {
@@ -94,11 +23,61 @@ int widthOf(KeyKind kind)
     return 0;
 }
 
-// Kept[double-ampersand]: a single one would be swallowed as the mark of a shortcut, and so two are
-// typed.
-QString labelOf(char character)
+KeyPlace key(KeyKind kind, const QString &objectName, const QString &text = {})
 {
-    return character == '&' ? QStringLiteral("&&") : QString(QLatin1Char(character));
+    return {.kind = kind,
+            .objectName = objectName,
+            .text = text,
+            .area = QRect(QPoint(), QSize(widthOf(kind), characterKeySize.height()))};
+}
+
+QList<KeyPlace> characters(const QString &labels)
+{
+    QList<KeyPlace> row;
+    // Kept[double-ampersand]: a single one would be swallowed as the mark of a shortcut, and so two
+    // are typed.
+    for (const QChar label : labels)
+        row.append(key(KeyKind::Character, {}, QString(label == u'&' ? 2 : 1, label)));
+    return row;
+}
+
+// Keys that stand on every page are told apart by its number.
+KeyPlace numbered(KeyPage page, KeyKind kind, const QString &name, const QString &text = {})
+{
+    if (page == KeyPage::Lowercase)
+        return key(kind, name, text);
+    return key(kind, QStringLiteral("%1_%2").arg(name).arg(int(page) + 1), text);
+}
+
+QList<KeyPlace> bottomRow(KeyPage page, const KeyPlace &function)
+{
+    return {function,
+            numbered(page, KeyKind::Blank, QStringLiteral("button_blank"),
+                     QString::fromUtf8(QT_TRANSLATE_NOOP("KeyBorad", "空格"))),
+            numbered(page, KeyKind::Enter, QStringLiteral("button_enter"),
+                     QString::fromUtf8(QT_TRANSLATE_NOOP("KeyBorad", "完成")))};
+}
+
+QList<QList<KeyPlace>> rowsOf(KeyPage page)
+{
+    const KeyPlace erase = numbered(page, KeyKind::Delete, QStringLiteral("button_delete"));
+    if (page == KeyPage::Symbol)
+        return {characters(QStringLiteral("~@#$%^&_")), characters(QStringLiteral("`|\\/*+-=")),
+                characters(QStringLiteral("()[]{}<>'")),
+                characters(QStringLiteral("\":;?!,.")) << erase,
+                bottomRow(page, key(KeyKind::Function, QStringLiteral("button_character"),
+                                    QStringLiteral("abc")))};
+    const bool isUpper = page == KeyPage::Uppercase;
+    const auto letters = [isUpper](const QString &row) {
+        return characters(isUpper ? row.toUpper() : row);
+    };
+    const KeyPlace shift = isUpper ? key(KeyKind::ShiftOn, QStringLiteral("button_shiftChecked"))
+                                   : key(KeyKind::Shift, QStringLiteral("button_shiftNormal"));
+    return {letters(QStringLiteral("1234567890")), letters(QStringLiteral("qwertyuiop")),
+            letters(QStringLiteral("asdfghjkl")),
+            QList{shift} + letters(QStringLiteral("zxcvbnm")) << erase,
+            bottomRow(page, numbered(page, KeyKind::Function, QStringLiteral("button_symbol"),
+                                     QStringLiteral("#+=")))};
 }
 } // namespace
 
@@ -106,21 +85,17 @@ QList<KeyPlace> keyPlaces(KeyPage page)
 {
     QList<KeyPlace> places;
     int top = firstRowTop;
-    for (const KeyRow &row : rowsOf(page)) {
-        int left = row.left;
-        const auto place = [&](KeyKind kind, const QString &objectName, const QString &text) {
-            places.append({kind, objectName, text, QRect(left, top, widthOf(kind), rowHeight)});
-            left += widthOf(kind);
-        };
-        const auto placeWide = [&place](const QList<WideKey> &keys) {
-            for (const WideKey &key : keys)
-                place(key.kind, QLatin1String(key.objectName), QString::fromUtf8(key.text));
-        };
-        placeWide(row.before);
-        for (const char *character = row.characters; *character; ++character)
-            place(KeyKind::Character, {}, labelOf(*character));
-        placeWide(row.after);
-        top += rowHeight;
+    for (QList<KeyPlace> &row : rowsOf(page)) {
+        int width = 0;
+        for (const KeyPlace &place : row)
+            width += place.area.width();
+        QPoint next((Look::screen.width() - width) / 2, top);
+        for (KeyPlace &place : row) {
+            place.area.moveTopLeft(next);
+            next.rx() += place.area.width();
+        }
+        places.append(row);
+        top += characterKeySize.height();
     }
     return places;
 }

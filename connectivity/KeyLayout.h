@@ -5,7 +5,7 @@
 #include <QSize>
 #include <QString>
 
-/// The three faces of the on-screen keyboard.
+/// The three faces of the on-screen keyboard, in the order of its stack.
 enum class KeyPage { Lowercase, Uppercase, Symbol };
 
 /// The size of every key that types its own text, in px.
