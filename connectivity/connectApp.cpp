@@ -10,11 +10,6 @@ connectApp::connectApp(QWidget *parent)
     : FormPage(parent)
 {
     ui->setupUi(this);
-    for (QWidget *part : std::initializer_list<QWidget *>{
-             ui->label_disonnected, ui->button_disconnectApp, ui->label_download,
-             ui->button_connectApp, ui->label_symblol1, ui->label_symblol2, ui->label_symblol3,
-             ui->label_symblol4, ui->label_rightInfo})
-        part->hide();
     show_connect_disconnect();
     for (PageHolder *holder : {ui->page_tryConnectApp, ui->page_disconnectApp})
         connect(holder, &PageHolder::signal_pageLeft, this, &connectApp::on_button_back_clicked);
@@ -32,6 +27,8 @@ void connectApp::show_connect_disconnect()
 {
     if (!ui)
         return;
+    ui->label_disonnected->hide();
+    ui->button_disconnectApp->hide();
     for (QWidget *part : std::initializer_list<QWidget *>{
              ui->label_download, ui->button_connectApp, ui->label_symblol1, ui->label_symblol2,
              ui->label_symblol3, ui->label_symblol4, ui->label_rightInfo})

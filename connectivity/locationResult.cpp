@@ -26,9 +26,6 @@ locationResult::locationResult(QWidget *parent)
     ui->setupUi(this);
     caret = new LineCaret(ui->lineEdit_location);
     caret->hide();
-    ui->listWidget->hide();
-    ui->label_noResult->hide();
-    ui->info_noResult->hide();
     ui->scrollBar_result->setAttribute(Qt::WA_TransparentForMouseEvents);
     mirror(ui->listWidget->verticalScrollBar(), ui->scrollBar_result);
     scroll = new DragScroll(ui->listWidget, this);
@@ -50,10 +47,7 @@ void locationResult::show_locate_result()
 {
     if (!ui)
         return;
-    ui->listWidget->show();
-    ui->scrollBar_result->show();
-    ui->label_noResult->hide();
-    ui->info_noResult->hide();
+    showPlaces(true);
     QFont font = ui->listWidget->font();
     font.setPixelSize(textPixels);
     ui->listWidget->setFont(font);
@@ -70,8 +64,13 @@ void locationResult::delete_searchLocation()
         return;
     ui->lineEdit_location->clear();
     caret->show();
-    ui->listWidget->hide();
-    ui->scrollBar_result->hide();
-    ui->label_noResult->show();
-    ui->info_noResult->show();
+    showPlaces(false);
+}
+
+void locationResult::showPlaces(bool found)
+{
+    ui->listWidget->setVisible(found);
+    ui->scrollBar_result->setVisible(found);
+    ui->label_noResult->setVisible(!found);
+    ui->info_noResult->setVisible(!found);
 }

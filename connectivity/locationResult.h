@@ -28,6 +28,8 @@ public slots:
     void delete_searchLocation();
 
 private:
+    void showPlaces(bool found);
+
     LineCaret *caret;
     DragScroll *scroll;
 };

@@ -14,7 +14,7 @@ passwordKeyboard::passwordKeyboard(QWidget *parent)
     connect(ui->button_back, &QPushButton::clicked, this,
             &passwordKeyboard::on_button_back_clicked);
     ui->lineEdit->setEchoMode(QLineEdit::Password);
-    keyboard = new KeyBorad(ui->frame_keyboard);
+    auto *keyboard = new KeyBorad(ui->frame_keyboard);
     connect(keyboard, &KeyBorad::signal_commit, this, &passwordKeyboard::on_entered_password);
 }
 

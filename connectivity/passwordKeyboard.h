@@ -2,8 +2,6 @@
 
 #include "pages/FormPage.h"
 
-class KeyBorad;
-
 namespace Ui {
 class passwordKeyboard;
 }
@@ -27,7 +25,4 @@ public slots:
     void on_entered_password();
     /// Opens the result of a connection; nothing calls it until there is a check.
     void jump_wifiConnectResult_page();
-
-private:
-    KeyBorad *keyboard;
 };

@@ -10,8 +10,8 @@ searchLocation::searchLocation(QWidget *parent)
     ui->setupUi(this);
     connect(ui->page_locationResult, &PageHolder::signal_pageLeft, this,
             &searchLocation::back_default_page);
-    keyBorad = new KeyBorad(ui->frame_keyboard);
-    connect(keyBorad, &KeyBorad::signal_commit, this, &searchLocation::jump_searchResult_page);
+    auto *keyboard = new KeyBorad(ui->frame_keyboard);
+    connect(keyboard, &KeyBorad::signal_commit, this, &searchLocation::jump_searchResult_page);
     connect(ui->button_delete, &QPushButton::clicked, this, &searchLocation::delete_searchLocation);
 }
 

@@ -2,8 +2,6 @@
 
 #include "pages/FormPage.h"
 
-class KeyBorad;
-
 namespace Ui {
 class searchLocation;
 }
@@ -17,14 +15,11 @@ class searchLocation : public FormPage<Ui::searchLocation>
 public:
     explicit searchLocation(QWidget *parent = nullptr);
 
+signals:
+    /// Never emitted; for the search that will take the typed text.
+    void signal_commit(const QString &strLocation);
+
 public slots:
     void jump_searchResult_page();
     void delete_searchLocation();
-
-signals:
-    /// Never sent; for the search that will take the typed text.
-    void signal_commit(const QString &strLocation);
-
-private:
-    KeyBorad *keyBorad;
 };

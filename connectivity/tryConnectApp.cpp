@@ -4,7 +4,6 @@
 #include "ui_tryConnectApp.h"
 
 #include <QDebug>
-#include <array>
 #include <cstdlib>
 #include <ctime>
 
@@ -21,14 +20,13 @@ void tryConnectApp::generate_random_number()
 {
     if (!ui)
         return;
-    const std::array<QLabel *, 4> labels = {ui->label_num1, ui->label_num2, ui->label_num3,
-                                            ui->label_num4};
     // Kept[number-of-the-second]: two openings within one second show the same number.
     std::srand(static_cast<unsigned>(std::time(nullptr)));
-    for (int i = 0; i < int(labels.size()); ++i) {
+    int place = 0;
+    for (QLabel *label : {ui->label_num1, ui->label_num2, ui->label_num3, ui->label_num4}) {
         const int digit = std::rand() % 10;
-        qDebug("generate random number[%d] ...is %d", i, digit);
-        labels[size_t(i)]->setText(tr("%1").arg(digit));
+        qDebug("generate random number[%d] ...is %d", place++, digit);
+        label->setText(tr("%1").arg(digit));
     }
 }
 

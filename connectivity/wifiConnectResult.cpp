@@ -8,10 +8,6 @@ wifiConnectResult::wifiConnectResult(QWidget *parent)
     : FormPage(parent)
 {
     ui->setupUi(this);
-    for (QWidget *outcome : std::initializer_list<QWidget *>{
-             ui->label_fail, ui->label_success, ui->label_infoFail, ui->label_infoSuccess,
-             ui->button_forgetFail, ui->button_forgetSuccess, ui->button_retryFail})
-        outcome->hide();
     show_connect_result();
     connect(ui->button_forgetFail, &QPushButton::clicked, this,
             &wifiConnectResult::forget_this_wifi);
@@ -24,9 +20,9 @@ wifiConnectResult::wifiConnectResult(QWidget *parent)
 // Kept[always-connected]: failure is never shown.
 void wifiConnectResult::show_connect_result()
 {
-    ui->label_success->show();
-    ui->label_infoSuccess->show();
-    ui->button_forgetSuccess->show();
+    for (QWidget *part : std::initializer_list<QWidget *>{
+             ui->label_fail, ui->label_infoFail, ui->button_forgetFail, ui->button_retryFail})
+        part->hide();
 }
 
 void wifiConnectResult::on_button_back_clicked() {}
