@@ -5,13 +5,14 @@
 
 #include <QDebug>
 #include <QFile>
-#include <optional>
+#include <algorithm>
 #include <utility>
 
 namespace {
+constexpr qint64 longestNumber = 64;
+
 std::optional<int> readLightSensor()
 {
-    constexpr qint64 longestNumber = 64;
     QFile file(devicePath(QStringLiteral("/sys/devices/virtual/input/input3/light_val")));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return std::nullopt;
@@ -48,7 +49,7 @@ void BacklightControl::followSensor()
         return;
     }
     sensorFailed = false;
-    const int wanted = BacklightLevel::bounded(*reading);
+    const int wanted = std::clamp(*reading, BacklightLevel::lowest, BacklightLevel::highest);
     // Kept[left-page-follows]: every page left behind does, for ever. A level that was sent last is
     // not sent once more by each of them, or a long evening of visits would hold up the device.
     if (leftBehind && wanted == Backlight::ofDevice().level())

@@ -1,7 +1,5 @@
 #include "settings/BacklightLevel.h"
 
-#include <algorithm>
-
 namespace BacklightLevel {
 
 namespace {
@@ -9,11 +7,6 @@ constexpr int belowIsLow = 8;
 constexpr int backFromLow = 10;
 constexpr int backFromFull = 255;
 } // namespace
-
-int bounded(int level)
-{
-    return std::clamp(level, lowest, highest);
-}
 
 std::optional<int> backFromEnd(int level)
 {

@@ -12,9 +12,6 @@ constexpr int atOpening = 132;
 /// How the groove of the slider is drawn; only its pictures differ.
 enum class Groove { Low, Normal, Full };
 
-/// Finds the level of the slider's range nearest to @p level.
-int bounded(int level);
-
 /// Tells where the slider goes back to from @p level at one of its ends; nothing for all other
 /// levels.
 std::optional<int> backFromEnd(int level);

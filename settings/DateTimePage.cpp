@@ -10,25 +10,15 @@ DateTimePage::DateTimePage(QWidget *parent)
     ui->setupUi(this);
 }
 
-void DateTimePage::Set24Hour(bool use)
-{
-    is24Hour = use;
-}
-
 void DateTimePage::list_init()
-{
-    placeSpinners();
-    loadSpinner(ui->widget_date, QStringLiteral("date"), 0);
-    timeSpinners().load(is24Hour, QTime::currentTime());
-    ui->widget_date->setFocus();
-    update();
-}
-
-void DateTimePage::placeSpinners()
 {
     ui->widget_date->move(is24Hour ? 88 : 12, ui->widget_date->y());
     ui->widget_hour->move(is24Hour ? 452 : 362, ui->widget_hour->y());
     ui->widget_min->move(is24Hour ? 612 : 512, ui->widget_min->y());
+    loadSpinner(ui->widget_date, QStringLiteral("date"), 0);
+    timeSpinners().load(is24Hour, QTime::currentTime());
+    ui->widget_date->setFocus();
+    update();
 }
 
 TimeSpinners DateTimePage::timeSpinners() const

@@ -19,14 +19,13 @@ public:
 
     /// Chooses between an hour wheel of 24 and one of 12 hours beside a wheel for the half of the
     /// day. Takes effect with the next list_init().
-    void Set24Hour(bool use);
+    void Set24Hour(bool use) { is24Hour = use; }
     /// Loads the wheels afresh, turned to this moment.
     void list_init();
 
     void on_button_back_clicked() override;
 
 private:
-    void placeSpinners();
     TimeSpinners timeSpinners() const;
 
     bool is24Hour = true;

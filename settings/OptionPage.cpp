@@ -43,8 +43,12 @@ bool OptionPage::eventFilter(QObject *watched, QEvent *event)
 
 void OptionPage::setup_signalWithSlot()
 {
-    using Jump = void (OptionPage::*)();
-    const std::pair<OptionFrame *, Jump> jumps[] = {
+    struct Jump
+    {
+        OptionFrame *tile;
+        void (OptionPage::*slot)();
+    };
+    const Jump jumps[] = {
         {ui->option_setWifi, &OptionPage::jump_setWifi_page},
         {ui->option_connectApp, &OptionPage::jump_connectApp_page},
         {ui->option_adjustLight, &OptionPage::jump_adjustLight_page},
@@ -55,8 +59,8 @@ void OptionPage::setup_signalWithSlot()
         {ui->option_frame_language, &OptionPage::jump_setLanguage_page},
         {ui->option_resetFactory, &OptionPage::jump_resetFactory_page},
     };
-    for (const auto &[tile, jump] : jumps)
-        connect(tile, &OptionFrame::clicked, this, jump);
+    for (const Jump &jump : jumps)
+        connect(jump.tile, &OptionFrame::clicked, this, jump.slot);
 
     for (const PageHolder *holder : findChildren<PageHolder *>())
         connect(holder, &PageHolder::signal_pageLeft, this, &OptionPage::back_default_page);

@@ -51,16 +51,6 @@ QString QmlApplicationViewer::adjustPath(const QString &path)
     return QStringLiteral("%1/../%2").arg(QCoreApplication::applicationDirPath(), path);
 }
 
-void QmlApplicationViewer::setOrientation(ScreenOrientation wished)
-{
-    wishedOrientation = wished;
-}
-
-void QmlApplicationViewer::showExpanded()
-{
-    show();
-}
-
 int QmlApplicationViewer::currentIndex() const
 {
     const QQuickItem *spinner = wheel();
@@ -75,12 +65,8 @@ QQuickItem *QmlApplicationViewer::wheel() const
 void QmlApplicationViewer::hideEvent(QHideEvent *event)
 {
     QQuickWidget::hideEvent(event);
-    if (!event->spontaneous())
-        releasePicture();
-}
-
-void QmlApplicationViewer::releasePicture()
-{
+    if (event->spontaneous())
+        return;
     // The base class keeps its picture of the last frame until it is given another size. A hidden
     // widget learns of a size only when it is shown, so it is told of the smallest one here; the
     // size of the form waits for the next showing and brings a full picture back.

@@ -25,16 +25,16 @@ public:
     void setMainQmlFile(const QString &file, int row = 0);
     /// Adds a folder, written like the path of a main file, to where QML modules are looked for.
     void addImportPath(const QString &path);
-    /// Keeps the wish, which changes nothing: the screen of the device never turns.
-    void setOrientation(ScreenOrientation wished);
-    ScreenOrientation orientation() const { return wishedOrientation; }
+    /// Does nothing: the screen of the device never turns.
+    void setOrientation(ScreenOrientation /*wished*/) {}
     /// Shows the host in the place its page gives it.
-    void showExpanded();
+    void showExpanded() { show(); }
 
     /// Tells the row in the middle of the spinner, counted from 0; -1 while there is none.
     int currentIndex() const;
 
 signals:
+    /// Never emitted; for the page that will take what a wheel was turned to.
     void hour(int value);
 
 protected:
@@ -43,7 +43,4 @@ protected:
 private:
     static QString adjustPath(const QString &path);
     QQuickItem *wheel() const;
-    void releasePicture();
-
-    ScreenOrientation wishedOrientation = ScreenOrientation::Automatic;
 };

@@ -7,13 +7,6 @@
 #include "ui_SetTimePage.h"
 
 #include <QDateTime>
-#include <array>
-
-namespace {
-// How the present moment is shown: with 24 hours, with 12 hours.
-const std::array<QString, 2> displayFormats = {QStringLiteral("yyyy-MM-dd HH:mm"),
-                                               QStringLiteral("yyyy-MM-dd hh:mm AP")};
-} // namespace
 
 SetTimePage::SetTimePage(QWidget *parent)
     : FormPage(parent)
@@ -31,7 +24,9 @@ void SetTimePage::paintEvent(QPaintEvent *event)
     FormPage::paintEvent(event);
     if (!ui)
         return;
-    const QString &format = displayFormats[ui->checkBox_24Hours->isChecked() ? 0 : 1];
+    const QString format = ui->checkBox_24Hours->isChecked()
+                               ? QStringLiteral("yyyy-MM-dd HH:mm")
+                               : QStringLiteral("yyyy-MM-dd hh:mm AP");
     // A new text paints this page once more; the same text again does not.
     ui->button_currentDateTime->setText(QDateTime::currentDateTime().toString(format));
 }

@@ -16,10 +16,10 @@ class SetTimePage : public FormPage<Ui::SetTimePage>
 public:
     explicit SetTimePage(QWidget *parent = nullptr);
 
-protected:
-    void paintEvent(QPaintEvent *event) override;
-
 public slots:
     void on_button_timeZone_clicked();
     void on_button_dateTime_clicked();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -17,7 +17,6 @@ TimeZonePage::TimeZonePage(QWidget *parent)
     : SinglePage(parent)
 {
     ui->setupUi(this);
-    readZones();
     fillTable();
     scroll = new DragScroll(ui->tableWidget_timeZone, this);
     ui->tableWidget_timeZone->viewport()->installEventFilter(this);
@@ -30,39 +29,31 @@ bool TimeZonePage::eventFilter(QObject *watched, QEvent *event)
     return SinglePage::eventFilter(watched, event);
 }
 
-void TimeZonePage::readZones()
-{
-    QFile file(QStringLiteral(":resource/TimeZone.txt"));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return;
-    QTextStream stream(&file);
-    while (!stream.atEnd())
-        zones.append(stream.readLine());
-}
-
 void TimeZonePage::fillTable()
 {
     QTableWidget *table = ui->tableWidget_timeZone;
-    table->setRowCount(int(zones.size()));
     table->setColumnCount(2);
     table->setItemDelegate(new TimeZoneItemDelegate(
         QPixmap(QStringLiteral("://resource/images/optionPage/checked.png")), this));
-    for (int row = 0; row < zones.size(); ++row) {
-        table->setRowHeight(row, rowHeight);
-        table->setItem(row, 0, new QTableWidgetItem(zones.at(row)));
-        table->setItem(row, 1, new QTableWidgetItem(QStringLiteral("0")));
-    }
     table->setColumnWidth(0, zoneWidth);
     table->setColumnWidth(1, checkMarkWidth);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    QFile file(QStringLiteral(":resource/TimeZone.txt"));
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    QTextStream lines(&file);
+    while (!lines.atEnd()) {
+        const int row = table->rowCount();
+        table->insertRow(row);
+        table->setRowHeight(row, rowHeight);
+        table->setItem(row, 0, new QTableWidgetItem(lines.readLine()));
+        table->setItem(row, 1, new QTableWidgetItem(QStringLiteral("0")));
+    }
 }
 
 void TimeZonePage::on_tableWidget_timeZone_cellDoubleClicked(int row, int /*column*/)
 {
-    chosenRow = row;
-    for (int other = 0; other < ui->tableWidget_timeZone->rowCount(); ++other) {
-        ui->tableWidget_timeZone->item(other, 1)->setText(other == chosenRow ? QStringLiteral("1")
-                                                                             : QStringLiteral("0"));
-    }
+    for (int other = 0; other < ui->tableWidget_timeZone->rowCount(); ++other)
+        ui->tableWidget_timeZone->item(other, 1)->setText(QString::number(int(other == row)));
 }

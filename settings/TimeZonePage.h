@@ -2,8 +2,6 @@
 
 #include "pages/FormPage.h"
 
-#include <QStringList>
-
 class DragScroll;
 
 namespace Ui {
@@ -27,10 +25,7 @@ public slots:
     void on_tableWidget_timeZone_cellDoubleClicked(int row, int column);
 
 private:
-    void readZones();
     void fillTable();
 
-    QStringList zones;
-    int chosenRow = -1;
     DragScroll *scroll;
 };

@@ -30,17 +30,12 @@ void nightModePage::SetTimeControlHideSlt()
 
 void nightModePage::on_button_startTime_clicked()
 {
-    openTimePage();
-}
-
-void nightModePage::on_button_finishTime_clicked()
-{
-    openTimePage();
+    if (ui)
+        ui->page_time->open<timePage>();
 }
 
 // Kept[night-mode-shown-only]: which of the two times is opened is not passed on.
-void nightModePage::openTimePage()
+void nightModePage::on_button_finishTime_clicked()
 {
-    if (ui)
-        ui->page_time->open<timePage>();
+    on_button_startTime_clicked();
 }

@@ -27,5 +27,4 @@ public slots:
 private:
     /// Does nothing: the form says it all.
     void InitUi() {}
-    void openTimePage();
 };

@@ -6,6 +6,9 @@
 #include <QCoreApplication>
 
 namespace {
+// The start time that night mode shows.
+const QTime shownStart{22, 30};
+
 QString tabStyle(bool selected)
 {
     return QStringLiteral("border-image: url(:/resource/images/optionPage/nightPattern/%1.png);\n"
@@ -14,9 +17,6 @@ QString tabStyle(bool selected)
         .arg(selected ? QStringLiteral("button") : QStringLiteral("unbutton"),
              selected ? QStringLiteral("#212121") : QStringLiteral("#FFFFFF"));
 }
-
-// The start time that night mode shows.
-const QTime shownStart{22, 30};
 } // namespace
 
 timePage::timePage(QWidget *parent)
