@@ -25,9 +25,8 @@ private slots:
 
     void init()
     {
-        QFile::remove("levels");
-        QFile::remove(Environment::deviceRoot() + sensor);
-        Environment::writeDeviceScript(tool, "echo \"$@\" >> levels");
+        QFile::remove(device.lightFile());
+        QVERIFY(simulator::replaceFile(device.backlightLog(), {}));
         page = std::make_unique<adjustLight>();
         page->show();
         slider = page->findChild<QSlider *>("slider_light");
@@ -48,9 +47,9 @@ private slots:
     void sensorSetsTheLevel()
     {
         QFETCH(Reading, row);
-        Environment::writeDeviceFile(sensor, row.text);
+        setLight(row.text);
         page->cause_lightUpdate();
-        QCOMPARE(recorded(), row.levels);
+        QCOMPARE(levels(), row.levels);
         QCOMPARE(slider->value(), row.shown);
     }
 
@@ -62,8 +61,8 @@ private slots:
         timer->setInterval(1);
         MessageLog log;
         QTRY_COMPARE(log.count("light sensor"), 1);
-        Environment::writeDeviceFile(sensor, "77");
-        QTRY_COMPARE(recorded(), "77\n");
+        setLight("77");
+        QTRY_COMPARE(levels(), "77\n");
         QCOMPARE(log.count("light sensor"), 1);
     }
 
@@ -74,60 +73,61 @@ private slots:
         QCOMPARE(slider->value(), 132);
         tap(page->findChild<QWidget *>("checkBox_adjustLight"));
         drag(page.get(), handle, handle + QPoint(400, 0), 1);
-        QCOMPARE(recorded(), "255\n257\n");
         QCOMPARE(slider->styleSheet().count("sliderBackground2.png"), 1);
         QVERIFY(slider->styleSheet().contains("border: -36px solid #212121;"));
-        Environment::writeDeviceFile(sensor, "90");
+        setLight("90");
         page->cause_lightUpdate();
-        QCOMPARE(recorded(), "255\n257\n");
+        QCOMPARE(levels(), "255\n257\n");
     }
 
     void pageLeftBehindFollowsTheSensorAndRepeatsNothing()
     {
-        // What the command says of itself changes nothing.
-        Environment::writeDeviceScript(tool, "echo \"$@\" >> levels; exit 1");
         adjustLight former;
         former.on_button_back_clicked();
         former.empty();
         QTRY_VERIFY(former.findChildren<QWidget *>().isEmpty());
-        Environment::writeDeviceFile(sensor, "300");
+        // The second of two pages repeats nothing, but follows alone as well.
+        setLight("300");
         page->cause_lightUpdate();
-        poll(&former);
-        QCOMPARE(recorded(), "255\n257\n");
+        poll(former);
         for (const QByteArray reading : {"50", "0", "0"}) {
-            Environment::writeDeviceFile(sensor, reading);
-            poll(&former);
+            setLight(reading);
+            poll(former);
         }
-        QCOMPARE(recorded(), "255\n257\n50\n10\n7\n");
-        Environment::writeDeviceFile(sensor, "60");
+        setLight("60");
         page->cause_lightUpdate();
-        poll(&former);
+        poll(former);
         // What it has not sent again it has taken in all the same: a level set by hand stays.
         Backlight::ofDevice().setLevel(200);
-        poll(&former);
-        QCOMPARE(recorded(), "255\n257\n50\n10\n7\n60\n200\n");
+        poll(former);
+        QCOMPARE(levels(), "255\n257\n50\n10\n7\n60\n200\n");
     }
 
+    // The last test: it leaves a script of its own.
     void hangingToolIsLeftAlone()
     {
         MessageLog log;
-        Environment::writeDeviceScript(tool, "trap '' TERM; /bin/sleep 30");
+        Environment::writeDeviceScript("/bin/qtapp/baklight", "trap '' TERM; /bin/sleep 30");
         const QDeadlineTimer patience(3000);
         for (int level = 20; level <= 60; ++level)
             Backlight::ofDevice().setLevel(level);
         QVERIFY2(!patience.hasExpired(), "the screen was held up by each level");
         QCOMPARE(log.lines().size(), 1);
-        Environment::writeDeviceScript(tool, "echo \"$@\" >> levels");
-        QTRY_COMPARE(recorded(), "60\n");
+        // The last level goes out; what the command says of itself changes nothing.
+        Environment::writeDeviceScript("/bin/qtapp/baklight", "echo $1 >> levels; exit 1");
+        QTRY_COMPARE(Environment::contentOf("levels"), "60\n");
     }
 
 private:
-    static QByteArray recorded() { return Environment::contentOf("levels"); }
+    QByteArray levels() const { return Environment::contentOf(device.backlightLog()); }
+    void setLight(const QByteArray &text) const
+    {
+        simulator::replaceFile(device.lightFile(), text);
+    }
     // What the timer of the page does, also when the page has been emptied.
-    static void poll(adjustLight *of) { of->findChild<BacklightControl *>()->followSensor(); }
+    static void poll(adjustLight &of) { of.findChild<BacklightControl *>()->followSensor(); }
 
-    static constexpr const char *tool = "/bin/qtapp/baklight";
-    static constexpr const char *sensor = "/sys/devices/virtual/input/input3/light_val";
+    const simulator::DeviceRoot device = Environment::device();
     std::unique_ptr<adjustLight> page;
     QSlider *slider = nullptr;
 };
