@@ -1,28 +1,27 @@
 #pragma once
 
-#include <QWidget>
-#include <functional>
+#include "pages/Page.h"
 
-/// Calls functions of @p object that take no arguments.
-template <class Class, class... Functions>
-void call(Class &object, Functions... functions)
+#include <type_traits>
+
+/// Tells that its arguments exist, which are named and not used: without one of them the program
+/// does not compile.
+constexpr bool exist(auto... /*names*/)
 {
-    (static_cast<void>(std::invoke(functions, object)), ...);
+    return true;
 }
 
-/// Connects signals of @p sender that have no arguments.
-template <class Class, class... Signals>
-void listen(const Class *sender, Signals... signalsOfSender)
+/// Tells whether @p Class, which has these names, is a @p Base and can be made for a parent.
+template <class Class, class Base = QWidget>
+constexpr bool has(auto... /*names*/)
 {
-    (QObject::connect(sender, signalsOfSender, sender, [] {}), ...);
+    return std::is_base_of_v<Base, Class> && std::is_constructible_v<Class, std::nullptr_t>;
 }
 
-/// Uses @p Page as the page that opens it does.
-template <class Page>
-Page &opened(QWidget *holder)
+/// Tells whether @p Class, which has these names, can be opened and left as a page.
+template <class Class>
+constexpr bool isPage(auto... names)
 {
-    auto *page = new Page(holder);
-    listen(page, &Page::signal_backDefaultPage);
-    page->on_button_back_clicked();
-    return *page;
+    return has<Class, Page>(&Class::signal_backDefaultPage, &Class::on_button_back_clicked,
+                            names...);
 }

@@ -18,97 +18,64 @@
 #include "connectivity/updateFirmware.h"
 #include "connectivity/wifiConnectResult.h"
 
-#include <QItemSelection>
-#include <QNetworkReply>
-#include <QPainter>
+static_assert(std::is_constructible_v<WifiInfo, QString, QString, int, EncryptType>);
+static_assert(exist(&WifiInfo::setConnectState, &WifiInfo::getConnectState, &WifiInfo::isConnected,
+                    &WifiInfo::hasNetwork, &WifiInfo::isConnecting, StateDisconnected,
+                    StateConnected, StateConnectedNoNetwork, StateConnecting));
+static_assert(has<WifiListModel, QAbstractListModel>(
+    &WifiListModel::setWifiList, &WifiListModel::insertWifi, &WifiListModel::insertRows,
+    &WifiListModel::removeRows, &WifiListModel::setData, &WifiListModel::data,
+    &WifiListModel::flags, &WifiListModel::rowCount, &WifiListModel::toConnect,
+    &WifiListModel::resetList));
+static_assert(has<WifiListRowDelegate, QStyledItemDelegate>(&WifiListRowDelegate::paint,
+                                                            &WifiListRowDelegate::sizeHint));
+static_assert(isPage<SetWifiPage>(&SetWifiPage::onListWifiItemClicked,
+                                  &SetWifiPage::back_default_page));
 
-void networks(QWidget *holder, QPainter *painter)
-{
-    auto *info = new WifiInfo(QString("Studio"), QString("MAC"), 3, EncryptType(0));
-    for (const ConnectState state :
-         {StateDisconnected, StateConnected, StateConnectedNoNetwork, StateConnecting})
-        info->setConnectState(state);
-    call(*info, &WifiInfo::getConnectState, &WifiInfo::isConnected, &WifiInfo::hasNetwork,
-         &WifiInfo::isConnecting);
+static_assert(has<CharacterButton, QPushButton>(&CharacterButton::signal_value,
+                                                &CharacterButton::show_label,
+                                                &CharacterButton::hide_label,
+                                                &CharacterButton::send_value));
+static_assert(has<KeyBorad>(&KeyBorad::signal_character, &KeyBorad::signal_commit,
+                            qOverload<const QString &>(&KeyBorad::add_character),
+                            qOverload<>(&KeyBorad::add_character), &KeyBorad::delete_character,
+                            &KeyBorad::complete_input, &KeyBorad::on_button_shiftNormal_pressed,
+                            &KeyBorad::on_button_shiftChecked_pressed,
+                            &KeyBorad::on_button_symbol_clicked,
+                            &KeyBorad::on_button_symbol_2_clicked,
+                            &KeyBorad::on_button_character_clicked, &KeyBorad::change_pressedIcon,
+                            &KeyBorad::change_releasedIcon));
+static_assert(isPage<passwordKeyboard>(&passwordKeyboard::signal_commit,
+                                       &passwordKeyboard::on_entered_password,
+                                       &passwordKeyboard::jump_wifiConnectResult_page));
+static_assert(isPage<wifiConnectResult>(&wifiConnectResult::forget_this_wifi,
+                                        &wifiConnectResult::retry_wifi_connect));
 
-    WifiListModel model(holder);
-    QAbstractListModel *base = &model;
-    model.setWifiList(QList<WifiInfo *>{info});
-    model.insertWifi(0, info);
-    model.insertRows(0, 1, QModelIndex());
-    model.removeRows(0, 1, QModelIndex());
-    model.setData(base->index(0), model.data(base->index(0), 10));
-    model.toConnect(int(model.flags(base->index(0))) + model.rowCount(QModelIndex()));
-    model.resetList();
-    const WifiListRowDelegate delegate(holder);
-    delegate.paint(painter, QStyleOptionViewItem(), QModelIndex());
-    delegate.sizeHint(QStyleOptionViewItem(), QModelIndex());
+static_assert(isPage<updateFirmware>(
+    &updateFirmware::check_versionUpdate, &updateFirmware::update_newVersion,
+    &updateFirmware::back_download_page, &updateFirmware::download_newVersion,
+    &updateFirmware::finish_reply, &updateFirmware::on_downloadProgress));
+static_assert(isPage<retryFirmware>(&retryFirmware::signal_retryDownloadPage,
+                                    &retryFirmware::on_button_retry_clicked));
+static_assert(isPage<installFirmware>());
 
-    auto &list = opened<SetWifiPage>(holder);
-    list.onListWifiItemClicked(QItemSelection(), QItemSelection());
-    list.back_default_page();
-}
+static_assert(isPage<connectApp>(&connectApp::download_from_appleStore,
+                                 &connectApp::download_from_googlePlay,
+                                 &connectApp::jump_tryConnectApp_page,
+                                 &connectApp::jump_disconnectApp_page,
+                                 &connectApp::show_connect_disconnect));
+static_assert(isPage<tryConnectApp>(&tryConnectApp::generate_random_number,
+                                    &tryConnectApp::check_connect_result));
+static_assert(isPage<connectResult>(&connectResult::show_success_fail));
+static_assert(isPage<disconnectApp>(&disconnectApp::cancel_disconnectApp,
+                                    &disconnectApp::confirm_disconnectApp));
 
-void keyboard(QWidget *container)
-{
-    CharacterButton key(container);
-    QPushButton &base = key;
-    base.show();
-    QObject::connect(&key, &CharacterButton::signal_value, [](QString) {});
-    call(key, &CharacterButton::show_label, &CharacterButton::hide_label,
-         &CharacterButton::send_value);
-    KeyBorad keyboard(container);
-    QObject::connect(&keyboard, &KeyBorad::signal_character, [](QString) {});
-    QObject::connect(&keyboard, &KeyBorad::signal_commit, [](QString) {});
-    keyboard.add_character(QString("a"));
-    keyboard.add_character();
-    call(keyboard, &KeyBorad::delete_character, &KeyBorad::complete_input,
-         &KeyBorad::on_button_shiftNormal_pressed, &KeyBorad::on_button_shiftChecked_pressed,
-         &KeyBorad::on_button_symbol_clicked, &KeyBorad::on_button_symbol_2_clicked,
-         &KeyBorad::on_button_character_clicked, &KeyBorad::change_pressedIcon,
-         &KeyBorad::change_releasedIcon);
-
-    auto &password = opened<passwordKeyboard>(container);
-    QObject::connect(&password, &passwordKeyboard::signal_commit, [](QString) {});
-    call(password, &passwordKeyboard::on_entered_password,
-         &passwordKeyboard::jump_wifiConnectResult_page);
-    wifiConnectResult result(container);
-    call(result, &wifiConnectResult::on_button_back_clicked, &wifiConnectResult::forget_this_wifi,
-         &wifiConnectResult::retry_wifi_connect);
-}
-
-void firmware(QWidget *holder, QNetworkReply *reply)
-{
-    auto &download = opened<updateFirmware>(holder);
-    call(download, &updateFirmware::check_versionUpdate, &updateFirmware::update_newVersion,
-         &updateFirmware::back_download_page, &updateFirmware::download_newVersion);
-    download.finish_reply(reply);
-    download.on_downloadProgress(qint64(1), qint64(-1));
-    auto &retry = opened<retryFirmware>(holder);
-    listen(&retry, &retryFirmware::signal_retryDownloadPage);
-    retry.on_button_retry_clicked();
-    const installFirmware install(holder);
-}
-
-void pairingAndLocation(QWidget *holder)
-{
-    call(opened<connectApp>(holder), &connectApp::download_from_appleStore,
-         &connectApp::download_from_googlePlay, &connectApp::jump_tryConnectApp_page,
-         &connectApp::jump_disconnectApp_page, &connectApp::show_connect_disconnect);
-    call(opened<tryConnectApp>(holder), &tryConnectApp::generate_random_number,
-         &tryConnectApp::check_connect_result);
-    connectResult(holder).show_success_fail();
-    disconnectApp question(holder);
-    listen(&question, &disconnectApp::signal_backDefaultPage);
-    call(question, &disconnectApp::cancel_disconnectApp, &disconnectApp::confirm_disconnectApp);
-
-    call(opened<setLocation>(holder), &setLocation::jump_searchLocation_page,
-         &setLocation::set_network_locate);
-    auto &search = opened<searchLocation>(holder);
-    QObject::connect(&search, &searchLocation::signal_commit, [](QString) {});
-    call(search, &searchLocation::jump_searchResult_page, &searchLocation::delete_searchLocation,
-         &searchLocation::back_default_page);
-    auto &result = opened<locationResult>(holder);
-    call(result, &locationResult::show_locate_result, &locationResult::delete_searchLocation);
-    result.eventFilter(holder, nullptr);
-}
+static_assert(isPage<setLocation>(&setLocation::jump_searchLocation_page,
+                                  &setLocation::set_network_locate));
+static_assert(isPage<searchLocation>(&searchLocation::signal_commit,
+                                     &searchLocation::jump_searchResult_page,
+                                     &searchLocation::delete_searchLocation,
+                                     &searchLocation::back_default_page));
+static_assert(isPage<locationResult>(&locationResult::show_locate_result,
+                                     &locationResult::delete_searchLocation,
+                                     &locationResult::eventFilter));

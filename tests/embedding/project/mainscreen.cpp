@@ -28,46 +28,20 @@ class HumidityReading : public HumidityPage
     using HumidityPage::update_currentData;
 };
 
-void mainView()
-{
-    MainView view(nullptr);
-    QGraphicsView &base = view;
-    base.show();
-    view.slide(-1);
-    view.slide_show(MainView::SlideDirection(2));
+static_assert(has<MainView, QGraphicsView>(&MainView::slide, &MainView::slide_show,
+                                           MainView::SlideDirection(2)));
+static_assert(has<BaseScene>(&BaseScene::signal_jumpToOption, &BaseScene::signal_jumpPage,
+                             &BaseScene::change_currentPage));
+static_assert(has<BaseValue>(&BaseValue::signal_slideRight, &BaseValue::signal_slideLeft));
+static_assert(has<PmPage, BaseValue>(&PmPage::update_pmData));
+static_assert(has<TemperaturePage, BaseValue>());
+static_assert(has<HumidityPage, BaseValue>());
+static_assert(has<PmAnimation, QFrame>(&PmAnimation::Finish, &PmAnimation::init,
+                                       &PmAnimation::startAnimation, &PmAnimation::stopAnimation));
 
-    BaseScene overlay(nullptr);
-    listen(&overlay, &BaseScene::signal_jumpToOption);
-    QObject::connect(&overlay, &BaseScene::signal_jumpPage, [](int) {});
-    overlay.change_currentPage(1);
-}
-
-void readingPages()
-{
-    PmPage page(nullptr);
-    page.update_pmData(35);
-    for (BaseValue *base :
-         {static_cast<BaseValue *>(&page), static_cast<BaseValue *>(new TemperaturePage(nullptr)),
-          static_cast<BaseValue *>(new HumidityPage(nullptr))})
-        listen(base, &BaseValue::signal_slideRight, &BaseValue::signal_slideLeft);
-
-    PmAnimation animation(&page);
-    QFrame &base = animation;
-    base.show();
-    listen(&animation, &PmAnimation::Finish);
-    call(animation, &PmAnimation::init, &PmAnimation::startAnimation, &PmAnimation::stopAnimation);
-}
-
-void colours()
-{
-    PmColorGenerator generator;
-    GradualValueToColor &scale = generator;
-    scale.setStartColor(0x64dd17);
-    scale.setEndColor(0xba1650);
-    scale.setColorAt(0.5F, 0xffeb3b);
-    RGB rgb;
-    scale.parseHexToRGB(0xffeb3b, rgb.r, rgb.g, rgb.b);
-    const std::pair<float, float> range = findRangRgb(0.5F, QMap<float, RGB>{{0.0F, rgb}});
-    const QColor color = generator.colorOfPm(range.first);
-    const QString name = scale.colorAt(range.second) + color.name();
-}
+using Scale = GradualValueToColor;
+static_assert(exist(&Scale::setStartColor, &Scale::setEndColor, &Scale::setColorAt,
+                    &Scale::parseHexToRGB, &Scale::colorAt, &PmColorGenerator::colorOfPm,
+                    &findRangRgb, &RGB::r, &RGB::g, &RGB::b));
+static_assert(std::is_base_of_v<Scale, PmColorGenerator>);
+static_assert(std::is_default_constructible_v<PmColorGenerator>);

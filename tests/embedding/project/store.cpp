@@ -2,20 +2,15 @@
 #include "acquisition/GetData.h"
 #include "store/ZellDatabase.h"
 
-void database()
+static_assert(has<ZellDatabase, QThread>(
+    &ZellDatabase::CreateDataBase, &ZellDatabase::CreateDataBaseTable,
+    &ZellDatabase::InsertDataBaseItem, &ZellDatabase::DeleteDataBaseTimeItem,
+    &ZellDatabase::DeleteDataBaseItem, &ZellDatabase::QueryPm25Values, &ZellDatabase::open_database,
+    &ZellDatabase::close_database, &zelldatabase));
+
+// Rows travel from any scheduler to any database.
+void storeRows(const GetData *scheduler, ZellDatabase *database)
 {
-    ZellDatabase database(nullptr);
-    QThread *base = &database;
-    base->start();
-    GetData scheduler;
-    QObject::connect(&scheduler, &GetData::signal_insertDataBaseItem, &database,
+    QObject::connect(scheduler, &GetData::signal_insertDataBaseItem, database,
                      &ZellDatabase::InsertDataBaseItem);
-    const QString table("PM2_5");
-    database.CreateDataBase(QString("ZellQt4.db"));
-    database.CreateDataBaseTable(QString("create table PM2_5 (UnixSec uint)"));
-    database.InsertDataBaseItem(time_t(0), table, 0, 1);
-    database.DeleteDataBaseTimeItem(table, 1L);
-    database.DeleteDataBaseItem(table, table, QString("1"));
-    call(database, &ZellDatabase::open_database, &ZellDatabase::QueryPm25Values,
-         &ZellDatabase::close_database);
 }
