@@ -1,8 +1,10 @@
 #include "device/Command.h"
 
+#include "device/TerminationSignals.h"
+
 #include <QDeadlineTimer>
 #include <QDebug>
-#include <cerrno>
+#include <algorithm>
 #include <csignal>
 #include <poll.h>
 #include <spawn.h>
@@ -14,6 +16,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto timeToDie = 100ms;
+constexpr qint64 longestSleep = 100;
 
 // Starts a shell that leads a process group of its own. 0 where that fails.
 pid_t startShell(const QString &command)
@@ -35,16 +38,17 @@ pid_t startShell(const QString &command)
     return error == 0 ? shell : 0;
 }
 
-// Whether process ends within limit. A kernel that cannot tell lets it take its time.
+// Whether process ends within limit and before this program is to end. A kernel that cannot tell
+// lets it take its time.
 bool endsWithin(std::chrono::milliseconds limit, pid_t process)
 {
     pollfd end{int(syscall(SYS_pidfd_open, process, 0)), POLLIN, 0};
     if (end.fd < 0)
         return true;
     const QDeadlineTimer deadline(limit);
-    // A signal may wake it early.
-    while (poll(&end, 1, int(deadline.remainingTime())) < 0 && errno == EINTR) {
-    }
+    // Awake now and then: it may be another thread that a signal reaches.
+    while (end.revents == 0 && !deadline.hasExpired() && !TerminationSignals::haveArrived())
+        poll(&end, 1, int(std::min<qint64>(deadline.remainingTime(), longestSleep)));
     close(end.fd);
     return end.revents != 0;
 }
@@ -62,7 +66,7 @@ CommandEnd runCommand(const QString &command, std::chrono::milliseconds limit, A
         qDebug() << "command failed, status" << status << command;
         return CommandEnd::Failed;
     }
-    qDebug() << "command not back within" << limit.count() << "ms:" << command;
+    qDebug() << "command given up, limit" << limit.count() << "ms:" << command;
     if (atLimit == AtLimit::End) {
         kill(-shell, SIGKILL);
         // One that hangs in a driver does not end even now.

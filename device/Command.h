@@ -10,7 +10,7 @@ enum class CommandEnd { Succeeded, Failed, HitLimit };
 /// What becomes of a command that has not come back within its time, and of all that it started.
 enum class AtLimit { End, LeaveRunning };
 
-/// Runs @p command in a shell and waits for it, @p limit at the most. Whatever keeps it from
-/// succeeding is told by one debug line. Thread-safe.
+/// Runs @p command in a shell and waits for it, @p limit at the most, and no longer than this
+/// program is to run. Whatever keeps it from succeeding is told by one debug line. Thread-safe.
 CommandEnd runCommand(const QString &command, std::chrono::milliseconds limit,
                       AtLimit atLimit = AtLimit::End);

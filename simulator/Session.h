@@ -1,9 +1,9 @@
 #pragma once
 
+#include "device/TerminationSignals.h"
 #include "simulator/Options.h"
 #include "simulator/ProgramRunner.h"
 #include "simulator/SimulatedDevice.h"
-#include "simulator/TerminationSignals.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>

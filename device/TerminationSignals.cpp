@@ -1,14 +1,15 @@
-#include "simulator/TerminationSignals.h"
+#include "device/TerminationSignals.h"
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace simulator {
 namespace {
 std::array<int, 2> signalPipe{-1, -1};
+std::atomic<bool> hasAny{false};
 
 int openPipe()
 {
@@ -17,9 +18,10 @@ int openPipe()
     return signalPipe[0];
 }
 
-// Nothing but write() is allowed here.
+// Nothing but write() and lock-free atomics is allowed here.
 void handleSignal(int)
 {
+    hasAny = true;
     const int savedError = errno;
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], "s", 1);
     errno = savedError;
@@ -40,6 +42,11 @@ TerminationSignals::TerminationSignals(QObject *parent)
         ::sigaction(signalNumber, &action, nullptr);
 }
 
+bool TerminationSignals::haveArrived()
+{
+    return hasAny;
+}
+
 void TerminationSignals::readPipe()
 {
     // One by one: a second signal means something else than the first, however soon it follows.
@@ -47,5 +54,3 @@ void TerminationSignals::readPipe()
     while (::read(signalPipe[0], &byte, 1) > 0)
         emit received();
 }
-
-} // namespace simulator

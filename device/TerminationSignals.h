@@ -3,14 +3,17 @@
 #include <QObject>
 #include <QSocketNotifier>
 
-namespace simulator {
-
 /// Brings SIGINT, SIGTERM and SIGHUP into the event loop. One object per process.
 class TerminationSignals : public QObject
 {
     Q_OBJECT
+
 public:
     explicit TerminationSignals(QObject *parent = nullptr);
+
+    /// Tells whether any has arrived, also before the event loop turns again: what waits without
+    /// turning it shall give up. Thread-safe.
+    static bool haveArrived();
 
 signals:
     void received();
@@ -20,5 +23,3 @@ private:
 
     QSocketNotifier notifier;
 };
-
-} // namespace simulator
