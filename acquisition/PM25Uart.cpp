@@ -13,6 +13,11 @@
 namespace {
 constexpr int testLines = 10;
 constexpr int reportedValue = 1000;
+
+QString supplySwitch()
+{
+    return devicePath(QStringLiteral("/dev/Boost_En"));
+}
 } // namespace
 
 PM25Uart::PM25Uart(QObject *parent)
@@ -87,9 +92,16 @@ void PM25Uart::power_off()
     switchSupply('0', "Boost_En off");
 }
 
+void PM25Uart::restSupply()
+{
+    QFile file(supplySwitch());
+    if (openExisting(file, QIODevice::ReadOnly, FileKind::RegularOrDevice) && file.read(1) != "0")
+        switchSupply('0', "Boost_En off");
+}
+
 void PM25Uart::switchSupply(char state, const char *message)
 {
-    QFile file(devicePath(QStringLiteral("/dev/Boost_En")));
+    QFile file(supplySwitch());
     const bool isThere =
         openExisting(file, QIODevice::ReadWrite | QIODevice::Unbuffered, FileKind::RegularOrDevice);
     if (isThere) {

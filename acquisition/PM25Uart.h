@@ -34,6 +34,9 @@ public:
     void power_on();
     void power_off();
 
+    /// Switches the supply off unless it is known to be off. Not while a link is open.
+    static void restSupply();
+
     /// Ends the handling of one burst. Whatever @p value is, the listeners are told 1000.
     void DataHandle(int value);
 
@@ -48,7 +51,7 @@ public slots:
 private:
     void greet();
     void leavePort();
-    void switchSupply(char state, const char *message);
+    static void switchSupply(char state, const char *message);
 
     inline static bool isSupplyFaultTold = false;
 

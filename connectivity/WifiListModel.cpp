@@ -1,5 +1,7 @@
 #include "connectivity/WifiListModel.h"
 
+#include "device/TerminationSignals.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -117,7 +119,7 @@ void WifiListModel::toConnect(int row)
     // Asleep between two events: a loop that only asks for them takes the whole processor.
     QTimer look;
     look.start(eventTime);
-    while (self && !connected.hasExpired())
+    while (self && !connected.hasExpired() && !TerminationSignals::haveArrived())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (!self || !wifiList.contains(chosen) || !chosen->isConnecting())
         return;

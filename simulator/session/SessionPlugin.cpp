@@ -2,17 +2,14 @@
 
 #include "simulator/session/Witness.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDebug>
-#include <QSocketNotifier>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
-#include <sys/socket.h>
-#include <unistd.h>
 
 // Qt's own entry for its test library.
 Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, const QPointF &global,
@@ -21,15 +18,6 @@ Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, con
                                       int timestamp);
 
 namespace {
-int signalPipe[2];
-
-// Only write() is safe in a signal handler; the event loop does the rest.
-void forwardSignal(int)
-{
-    const char byte = 1;
-    [[maybe_unused]] const ssize_t written = write(signalPipe[0], &byte, 1);
-}
-
 QWidget *screen()
 {
     for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -40,13 +28,12 @@ QWidget *screen()
     return nullptr;
 }
 
-void endSession()
+void savePicture()
 {
     const QString file = qEnvironmentVariable("ZELL_SESSION_SHOT");
     QWidget *window = screen();
     if (window && !file.isEmpty() && !window->grab().save(file))
         qDebug() << "cannot save the picture" << file;
-    QCoreApplication::quit();
 }
 
 // As the platform does, so that Qt itself finds what lies under the finger.
@@ -71,6 +58,23 @@ void planTaps(QObject *session)
             QTimer::singleShot(std::chrono::seconds(second), session, [place] { tapAt(place); });
     }
 }
+
+// A call may wait, turning the event loop or not; the next one follows when it is back.
+void callNext(QObject *session, QStringList calls)
+{
+    if (calls.isEmpty())
+        return;
+    const QStringList call = calls.takeFirst().split('.');
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (widget->objectName() != call.first())
+            continue;
+        if (auto *list = qobject_cast<QAbstractItemView *>(widget))
+            list->setCurrentIndex(list->model()->index(call.last().toInt(), 0));
+        else
+            QMetaObject::invokeMethod(widget, call.last().toLatin1());
+    }
+    QTimer::singleShot(0, session, [=] { callNext(session, calls); });
+}
 } // namespace
 
 QObject *SessionPlugin::create(const QString &, const QString &)
@@ -79,20 +83,14 @@ QObject *SessionPlugin::create(const QString &, const QString &)
     auto *session = new QObject;
     const std::chrono::seconds length(qEnvironmentVariableIntValue("ZELL_SESSION_SECONDS"));
     if (length.count() > 0)
-        QTimer::singleShot(length, session, endSession);
+        QTimer::singleShot(length, session, &QCoreApplication::quit);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, session, savePicture);
 
     if (qEnvironmentVariableIsSet("ZELL_SESSION_WATCH"))
         new Witness(session);
     planTaps(session);
-
-    if (socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) == 0) {
-        auto *notifier = new QSocketNotifier(signalPipe[1], QSocketNotifier::Read, session);
-        QObject::connect(notifier, &QSocketNotifier::activated, session, [notifier] {
-            notifier->setEnabled(false);
-            endSession();
-        });
-        std::signal(SIGINT, forwardSignal);
-        std::signal(SIGTERM, forwardSignal);
-    }
+    const QStringList calls =
+        qEnvironmentVariable("ZELL_SESSION_CALLS").split(',', Qt::SkipEmptyParts);
+    QTimer::singleShot(0, session, [=] { callNext(session, calls); });
     return session;
 }

@@ -1,30 +1,106 @@
 #include "shell/MainWindow.h"
+#include "simulator/FirmwareServer.h"
 #include "testkit/CallSlot.h"
-#include "testkit/Environment.h"
+#include "testkit/PseudoTerminal.h"
+#include "testkit/TableRows.h"
 
 #include <QProcess>
 #include <QStackedWidget>
+#include <csignal>
 
 class TestStart : public QObject
 {
     Q_OBJECT
 
+    struct Moment
+    {
+        const char *name;
+        int signal;
+        QByteArray calls;            ///< of slots, as the session plug-in takes them
+        QByteArray sign;             ///< in the output, that the moment has come
+        const char *hangs = nullptr; ///< a program of the device
+    };
+
+    QProcess program;
+    QByteArray output;
+
+    bool says(const QByteArray &text)
+    {
+        return QTest::qWaitFor([&] { return (output += program.readAll()).contains(text); }, 20000);
+    }
+
 private slots:
+    void initTestCase()
+    {
+        qputenv("QT_PLUGIN_PATH", ZELL_SESSION);
+        qputenv("QT_QPA_GENERIC_PLUGINS", "zellsession");
+        program.setProcessChannelMode(QProcess::MergedChannels);
+        program.setProgram(ZELL_PROGRAM);
+    }
+
+    void init()
+    {
+        QString problem;
+        QVERIFY(Environment::device().create({"Studio"}, &problem));
+        output.clear();
+    }
+
+    void cleanup()
+    {
+        program.kill();
+        program.waitForFinished();
+    }
+
     // What must stand before the first screen is built: the database and the scheduler.
     void measurementSideFirst()
     {
+        const QString supply = Environment::device().supplySwitch();
         for (const char *known : {"DB is not exist,need to create!", "DB is exist!"}) {
-            QProcess program;
-            program.setProcessChannelMode(QProcess::MergedChannels);
-            program.start(ZELL_PROGRAM, {});
-            QByteArray output;
-            QTRY_VERIFY((output += program.readAll()).contains("add Font:"));
+            QVERIFY(simulator::replaceFile(supply, "1")); // as a program leaves it that was killed
+            program.start();
+            QVERIFY(says("add Font:"));
             const QByteArray before = output.first(output.indexOf("add Font:"));
             QCOMPARE(before.count("DB is "), 1); // opened by the first scheduler
             QVERIFY(before.contains(known));
-            program.terminate();
+            QCOMPARE(Environment::contentOf(supply), "0");
+            program.kill();
             QVERIFY(program.waitForFinished());
+            output.clear();
         }
+    }
+
+    void signalEndsItAll_data()
+    {
+        addRows<Moment>(
+            {{"starting", SIGINT, "", "add Font:"},
+             {"measuring", SIGTERM, "PmPage.ShowAnimation", "UART listening for data"},
+             {"scanning", SIGTERM, "OptionPage.jump_setWifi_page", "hanging", "/sbin/iwlist"},
+             {"connecting", SIGINT, "OptionPage.jump_setWifi_page,listView.0", "Click"},
+             {"downloading", SIGTERM,
+              "OptionPage.jump_updateFirmware_page,updateFirmware.download_newVersion",
+              "iBytesReceive is"},
+             {"restarting", SIGTERM,
+              "OptionPage.jump_setLanguage_page,setLanguagePage.on_button_back_clicked", "hanging",
+              "/bin/restartZellQt.sh"}});
+    }
+
+    void signalEndsItAll()
+    {
+        QFETCH(Moment, row);
+        const PseudoTerminal line;
+        simulator::FirmwareServer server({firmwareAnswer(simulator::FirmwareFault::Endless)});
+        QVERIFY(server.listen());
+        qputenv("ZELL_FIRMWARE_URL", server.url().toLatin1());
+        if (row.hangs)
+            Environment::writeDeviceScript(row.hangs, "echo hanging >&2; exec sleep 8");
+        qputenv("ZELL_SESSION_CALLS", row.calls);
+        program.start();
+        QVERIFY(says(row.sign));
+        ::kill(pid_t(program.processId()), row.signal);
+        QVERIFY(program.waitForFinished(1000));
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        QCOMPARE(Environment::contentOf(Environment::device().supplySwitch()), "0");
     }
 
     void settingsSlideInTwice()
