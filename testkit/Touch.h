@@ -5,10 +5,15 @@
 #include <QString>
 #include <QWidget>
 
-/// A finger on the screen: real mouse events, sent to the widget that the window finds under them.
+/// A finger on a touch screen, as the window system tells of it; another finger comes and goes
+/// while it is down. A test that needs a literal mouse event sends it by itself.
 
 /// Presses and releases at @p position of @p window.
 void tapAt(QWidget *window, const QPoint &position);
+
+/// Taps twice at @p position, so that the second tap is the second half of a double tap. However
+/// fast other taps follow one another, they are taps.
+void doubleTapAt(QWidget *window, const QPoint &position);
 
 /// Taps the middle of @p widget through its window. For widgets that are not inside a graphics
 /// view.

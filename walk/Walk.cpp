@@ -130,7 +130,7 @@ void Walk::tap(const QString &objectName)
 
 void Walk::doubleTapAt(const QPoint &position)
 {
-    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, position);
+    ::doubleTapAt(window.get(), position);
 }
 
 void Walk::pressAt(const QPoint &position)

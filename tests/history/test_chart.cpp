@@ -44,7 +44,7 @@ public:
     {
         repainted = {};
         for (const int x : places)
-            QTest::mouseMove(this, {x, 100});
+            moveTo(this, {x, 100});
         // What is asked for while painting is painted with the next round.
         for (int round = 0; round < 3; ++round)
             QCoreApplication::processEvents();
