@@ -1,6 +1,7 @@
 #include "mainscreen/BaseValue.h"
 
 #include "mainscreen/Transparent.h"
+#include "pages/CancelledTouch.h"
 #include "ui_BaseValue.h"
 
 #include <QDebug>
@@ -41,6 +42,8 @@ void BaseValue::mousePressEvent(QMouseEvent *event)
 
 void BaseValue::mouseReleaseEvent(QMouseEvent *event)
 {
+    if (CancelledTouch::lifts(event))
+        return;
     const int distance = event->position().toPoint().x() - pressPosition.x();
     // Kept[any-swipe]: a single pixel is enough, however slow and however steep.
     if (distance < 0)

@@ -1,5 +1,7 @@
 #include "pages/DragScroll.h"
 
+#include "pages/CancelledTouch.h"
+
 #include <QAbstractScrollArea>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -34,8 +36,13 @@ bool DragScroll::follow(QObject *touched, QEvent *event)
     case QEvent::MouseButtonPress:
         pressY = fingerY(area, touched, event);
         return true;
-    case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
+        if (CancelledTouch::lifts(static_cast<QMouseEvent *>(event))) {
+            animation.stop();
+            return true;
+        }
+        [[fallthrough]];
+    case QEvent::MouseMove:
         glide(fingerY(area, touched, event));
         return true;
     default:

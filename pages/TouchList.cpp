@@ -16,6 +16,8 @@ TouchList::TouchList(QAbstractItemView *listView)
     , view(listView)
     , scroll(new DragScroll(listView, this))
 {
+    // A row that is half in sight stays there when it is chosen.
+    view->setAutoScroll(false);
     view->viewport()->installEventFilter(this);
 }
 
@@ -33,8 +35,11 @@ bool TouchList::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::MouseButtonRelease) {
         const QModelIndex row = std::exchange(pressed, QPersistentModelIndex());
-        if (row.isValid())
+        if (row.isValid()) {
+            view->selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+            // The last of all: its receivers may delete the view.
             view->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect);
+        }
     }
     return true;
 }

@@ -1,6 +1,7 @@
 #include "settings/setLanguagePage.h"
 
 #include "pages/Language.h"
+#include "pages/TouchList.h"
 #include "settings/Restart.h"
 #include "ui_setLanguagePage.h"
 
@@ -11,6 +12,7 @@ setLanguagePage::setLanguagePage(QWidget *parent)
     ui->setupUi(this);
     ui->button_back->setGeometry(0, 0, 10, 10);
     show_language_list();
+    new TouchList(ui->listWidget);
 }
 
 void setLanguagePage::show_language_list()

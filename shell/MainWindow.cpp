@@ -2,6 +2,7 @@
 
 #include "mainscreen/BaseScene.h"
 #include "mainscreen/MainView.h"
+#include "pages/CancelledTouch.h"
 #include "pages/Fonts.h"
 #include "pages/SlideIn.h"
 #include "settings/OptionPage.h"
@@ -39,6 +40,7 @@ MainWindow::MainWindow(QWidget *parent)
     mainView = new MainView(ui->page_main);
     optionPage = new OptionPage(ui->page_option);
     connect_init();
+    new CancelledTouch(this);
 }
 
 MainWindow::~MainWindow() = default;

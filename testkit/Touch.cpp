@@ -5,51 +5,51 @@
 #include <QStyleHints>
 #include <QTest>
 #include <QWindow>
+#include <algorithm>
 #include <climits>
 
 namespace {
-// Events go through the native window, so that Qt itself finds the widget under the finger and
-// keeps the grab between press and release, as on the device.
-QWindow *nativeWindow(QWidget *widget)
-{
-    QWindow *window = widget->window()->windowHandle();
-    Q_ASSERT(window);
-    return window;
-}
-
-QTest::QTouchEventSequence panel(QWidget *window)
+QPointingDevice *panel()
 {
     static QPointingDevice *const device = QTest::createTouchDevice();
-    return QTest::touchEvent(nativeWindow(window), device, false);
+    return device;
 }
 
-// The second of two taps belongs to the first one where no more than doubleTap ms lie between.
-void putDown(QWidget *window, const QPoint &position, int doubleTap)
+// Touches go through the native window, so that Qt itself finds the widget under the finger and
+// keeps the grab between press and release, as on the device.
+QTest::QTouchEventSequence handOn(QWidget *window)
 {
-    QGuiApplication::styleHints()->setMouseDoubleClickInterval(doubleTap);
+    return QTest::touchEvent(window->window()->windowHandle(), panel(), false);
+}
+} // namespace
+
+void pressAt(QWidget *window, const QPoint &position, int doubleTapTime)
+{
+    QGuiApplication::styleHints()->setMouseDoubleClickInterval(doubleTapTime);
     const QPoint beside = position + QPoint(60, 20);
-    auto hand = panel(window);
+    auto hand = handOn(window);
     hand.press(0, position).commit(false);
     // What another finger does meanwhile counts for nothing.
     hand.stationary(0).press(1, beside).commit(false);
     hand.stationary(0).release(1, beside).commit();
 }
-} // namespace
-
-void pressAt(QWidget *window, const QPoint &position)
-{
-    // However fast a test taps, two taps are two taps.
-    putDown(window, position, 0);
-}
 
 void moveTo(QWidget *window, const QPoint &position)
 {
-    panel(window).move(0, position).commit();
+    handOn(window).move(0, position).commit();
 }
 
 void releaseAt(QWidget *window, const QPoint &position)
 {
-    panel(window).release(0, position).commit();
+    handOn(window).release(0, position).commit();
+}
+
+void cancelAt(QWidget *window, const QPoint &position)
+{
+    // As Qt does: the window is told, then the mouse that stands for the finger is lifted.
+    QTouchEvent cancel(QEvent::TouchCancel, panel());
+    QCoreApplication::sendEvent(window->window()->windowHandle(), &cancel);
+    releaseAt(window, position);
 }
 
 void tapAt(QWidget *window, const QPoint &position)
@@ -61,7 +61,7 @@ void tapAt(QWidget *window, const QPoint &position)
 void doubleTapAt(QWidget *window, const QPoint &position)
 {
     tapAt(window, position);
-    putDown(window, position, INT_MAX);
+    pressAt(window, position, INT_MAX);
     releaseAt(window, position);
 }
 
@@ -80,18 +80,16 @@ void drag(QWidget *window, const QPoint &from, const QPoint &to, int steps)
 
 QWidget *visibleChild(QWidget *root, const QString &objectName)
 {
-    for (QWidget *child : root->findChildren<QWidget *>(objectName)) {
-        if (child->isVisible())
-            return child;
-    }
-    return nullptr;
+    const auto named = root->findChildren<QWidget *>(objectName);
+    const auto found = std::ranges::find_if(named, &QWidget::isVisible);
+    return found == named.end() ? nullptr : *found;
 }
 
 QAbstractButton *visibleButton(QWidget *root, const QString &text)
 {
-    for (auto *button : root->findChildren<QAbstractButton *>()) {
-        if (button->isVisible() && button->text() == text)
-            return button;
-    }
-    return nullptr;
+    const auto buttons = root->findChildren<QAbstractButton *>();
+    const auto found = std::ranges::find_if(buttons, [&text](const QAbstractButton *button) {
+        return button->isVisible() && button->text() == text;
+    });
+    return found == buttons.end() ? nullptr : *found;
 }

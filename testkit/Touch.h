@@ -11,8 +11,7 @@
 /// Presses and releases at @p position of @p window.
 void tapAt(QWidget *window, const QPoint &position);
 
-/// Taps twice at @p position, so that the second tap is the second half of a double tap. However
-/// fast other taps follow one another, they are taps.
+/// Taps twice at @p position within no time. Other taps are taps, however fast they follow.
 void doubleTapAt(QWidget *window, const QPoint &position);
 
 /// Taps the middle of @p widget through its window. For widgets that are not inside a graphics
@@ -22,10 +21,13 @@ void tap(QWidget *widget);
 /// Presses at @p from, moves in @p steps to @p to and releases there.
 void drag(QWidget *window, const QPoint &from, const QPoint &to, int steps = 4);
 
-/// Presses at @p position and keeps the finger down.
-void pressAt(QWidget *window, const QPoint &position);
+/// Presses at @p position and keeps the finger down. The second half of a double tap where the
+/// press before it was less than @p doubleTapTime ms ago.
+void pressAt(QWidget *window, const QPoint &position, int doubleTapTime = 0);
 void moveTo(QWidget *window, const QPoint &position);
 void releaseAt(QWidget *window, const QPoint &position);
+/// Lets the panel cancel the touch that was last at @p position.
+void cancelAt(QWidget *window, const QPoint &position);
 
 /// Returns the one descendant of @p root named @p objectName that is visible, or null.
 QWidget *visibleChild(QWidget *root, const QString &objectName);

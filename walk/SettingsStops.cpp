@@ -1,3 +1,4 @@
+#include "testkit/Touch.h"
 #include "walk/Stops.h"
 
 namespace {
@@ -7,7 +8,7 @@ const Step back = tapping("button_back");
 
 void chooseZone(Walk &walk)
 {
-    walk.doubleTapAt(secondZone);
+    doubleTapAt(walk.screen(), secondZone);
 }
 } // namespace
 

@@ -128,11 +128,6 @@ void Walk::tap(const QString &objectName)
     tapAt(centreOf(find(objectName)));
 }
 
-void Walk::doubleTapAt(const QPoint &position)
-{
-    ::doubleTapAt(window.get(), position);
-}
-
 void Walk::pressAt(const QPoint &position)
 {
     finger = position;

@@ -25,7 +25,6 @@ public:
 
     void tap(const QString &objectName);
     void tapAt(const QPoint &position);
-    void doubleTapAt(const QPoint &position);
     void pressAt(const QPoint &position);
     /// Lifts the finger that pressAt() or pressKey() put down.
     void release();

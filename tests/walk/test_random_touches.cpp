@@ -3,8 +3,9 @@
 #include "store/ZellDatabase.h"
 #include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
+#include "testkit/TableRows.h"
 #include "testkit/Touch.h"
-#include "walk/Walk.h"
+#include "walk/Stops.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -21,19 +22,67 @@ class TestRandomTouches : public QObject
 {
     Q_OBJECT
 
+    struct Touch
+    {
+        const char *name;
+        std::vector<Step> way;
+        QPoint place, moved;
+    };
+
 private slots:
-    void init()
+    void initTestCase()
     {
         zelldatabase = &database;
         Environment::writeDeviceScript("/bin/restartZellQt.sh", "true");
         QVERIFY(server.listen());
         qputenv("ZELL_FIRMWARE_URL", server.url().toLatin1());
-        walk = std::make_unique<Walk>();
-        toMenu();
         // Whoever waits for a page to react touches it again meanwhile.
         impatience.setInterval(100);
         impatience.setSingleShot(true);
         connect(&impatience, &QTimer::timeout, this, &TestRandomTouches::touch);
+    }
+
+    void init()
+    {
+        walk = std::make_unique<Walk>();
+        toMenu();
+    }
+
+    void aCancelledTouchDoesNothing_data()
+    {
+        const Step back = tapping("button_back");
+        const Step openWifi = opening("option_setWifi");
+        addRows<Touch>(
+            {{"button of the main screen", {back}, {782, 90}, {}},
+             {"tile of the main screen", {back}, {647, 305}, {}},
+             {"swipe", {back}, {300, 60}, {-80, 0}},
+             {"chart", {back, tapping("button_history")}, {400, 300}, {}},
+             {"tile of the menu", {}, {620, 256}, {}},
+             {"drag of the menu", {}, {427, 400}, {0, -60}},
+             {"switch", {opening("option_adjustLight")}, {707, 316}, {}},
+             {"language", {opening("option_frame_language")}, {427, 200}, {}},
+             {"network", {openWifi}, {427, 120}, {}},
+             {"key", {openWifi, tappingAt({427, 120}), seeing("button_enter")}, {427, 200}, {}}});
+    }
+
+    void aCancelledTouchDoesNothing()
+    {
+        QFETCH(Touch, row);
+        walk->settle();
+        for (const Step &step : row.way) {
+            step(*walk);
+            walk->settle();
+        }
+        QImage before = walk->picture();
+        pressAt(walk->screen(), row.place);
+        moveTo(walk->screen(), row.place + row.moved);
+        walk->settle();
+        // A list stays where it has been dragged to.
+        if (!row.moved.isNull())
+            before = walk->picture();
+        cancelAt(walk->screen(), row.place + row.moved);
+        walk->settle();
+        QCOMPARE(walk->picture(), before);
     }
 
     void windowBearsAnyTouch()
@@ -90,15 +139,15 @@ private:
         } else if (kind == 1) {
             toMenu();
         } else if (kind < 5) {
-            walk->doubleTapAt(from);
+            doubleTapAt(walk->screen(), from);
         } else if (kind < 20) {
             drag(walk->screen(), from, place());
         } else {
-            walk->pressAt(from);
+            pressAt(walk->screen(), from);
             if (kind == 20)
                 QTest::qWait(1100);
             isDown = false;
-            walk->release();
+            (kind > 90 ? cancelAt : releaseAt)(walk->screen(), from);
         }
         isDown = false;
     }
