@@ -6,7 +6,8 @@
 
 /// The rules of the measurement history that need no database. All thread-safe.
 
-/// Lists the statements that create the four tables. Each fails harmlessly where its table exists.
+/// Lists the statements that make a connection ready for rows: how it reaches the card, then the
+/// four tables. Each of these fails harmlessly where its table exists.
 QStringList tableStatements();
 
 /// Tells up to which second rows are dropped at @p now (Unix seconds): local midnight six days

@@ -2,28 +2,30 @@
 
 #include "acquisition/GetData.h"
 #include "shell/Global_cfg.h"
-#include "store/DamagedFile.h"
+#include "store/StoreFile.h"
 #include "store/StoreRules.h"
 
 #include <QDebug>
 #include <QFile>
-#include <QSqlDatabase>
 #include <QSqlError>
-#include <QSqlQuery>
 #include <QVariant>
+
+using namespace std::chrono_literals;
 
 ZellDatabase *zelldatabase = nullptr;
 
 namespace {
-// SQLite's own default in Qt is five seconds, a frozen screen.
-constexpr auto connectOptions = "QSQLITE_BUSY_TIMEOUT=100";
+constexpr auto retryPeriod = 1s;
+// After a locked file has been waited for, what else the row brings is not even tried.
+constexpr auto lockRest = 500ms;
+// The latest ones: what is lost then lies together, and the history goes on to the present.
+constexpr std::size_t mostWaiting = 8;
 
-QSqlDatabase connection()
+QString measurements()
 {
-    return QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false);
+    return QStringLiteral("ZellQt4.db");
 }
 
-// What a table takes of the two values of an insert.
 struct Table
 {
     QString name;
@@ -55,49 +57,32 @@ QString insertStatement(const Table &table)
         .arg(table.name, table.takesBoth ? QStringLiteral(", ?") : QString());
 }
 
-QSqlError execute(const QString &statement, const QVariantList &values)
+// What a table takes of the two values of an insert.
+QVariantList valuesFor(const Table &table, int value, int value2)
 {
-    const QSqlDatabase database = connection();
-    if (!database.isOpen())
-        return QSqlError({}, {}, QSqlError::ConnectionError);
-    QSqlQuery query(database);
-    if (query.prepare(statement)) {
-        for (const QVariant &value : values)
-            query.addBindValue(value);
-        query.exec();
-    }
-    return query.lastError();
+    return table.takesBoth ? QVariantList{value, value2} : QVariantList{value2};
 }
 
-// Whether the row stored last holds values. A row that is missing or unreadable differs.
-bool repeatsLastRow(const Table &table, const QVariantList &values)
+QVariantList rowFor(const Table &table, std::time_t time, int value, int value2)
 {
-    const QSqlDatabase database = connection();
-    if (!database.isOpen())
-        return false;
-    QSqlQuery query(database);
-    query.exec(QStringLiteral("select %1 From %2 where UnixSec = %3")
-                   .arg(table.columns, table.name)
-                   .arg(GetData::iLastUnixSec));
-    if (!query.next())
-        return false;
-    for (int column = 0; column < values.size(); ++column) {
-        if (query.value(column).toInt() != values[column].toInt())
-            return false;
-    }
-    return true;
+    return QVariantList{quint32(time), localTimeText(time)} + valuesFor(table, value, value2);
 }
 } // namespace
 
 ZellDatabase::ZellDatabase(QObject *parent)
     : QThread(parent)
 {
+    connect(&retryTimer, &QTimer::timeout, this, &ZellDatabase::retry);
 }
 
 ZellDatabase::~ZellDatabase()
 {
-    if (zelldatabase == this)
-        zelldatabase = nullptr;
+    if (zelldatabase != this)
+        return;
+    if (!waiting.empty())
+        retry();
+    closeStore();
+    zelldatabase = nullptr;
 }
 
 void ZellDatabase::run() {}
@@ -109,9 +94,8 @@ void ZellDatabase::close_database() {}
 
 void ZellDatabase::openMeasurements()
 {
-    CreateDataBase(QStringLiteral("ZellQt4.db"));
-    for (const QString &statement : tableStatements())
-        CreateDataBaseTable(statement);
+    CreateDataBase(measurements());
+    makeTables();
 }
 
 void ZellDatabase::CreateDataBase(const QString &fileName)
@@ -120,22 +104,13 @@ void ZellDatabase::CreateDataBase(const QString &fileName)
         qDebug() << "DB is exist!";
     else
         qDebug() << "DB is not exist,need to create!";
-
-    const auto name = QLatin1String(QSqlDatabase::defaultConnection);
-    QSqlDatabase database = QSqlDatabase::contains(name)
-                                ? connection()
-                                : QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
-    database.setDatabaseName(fileName);
-    database.setConnectOptions(QLatin1String(connectOptions));
-    if (!database.open())
+    if (!openStore(fileName))
         qDebug() << "Open DB fail!";
 }
 
 void ZellDatabase::CreateDataBaseTable(const QString &statement)
 {
-    const QSqlDatabase database = connection();
-    if (database.isOpen())
-        QSqlQuery(database).exec(statement);
+    execute(statement);
 }
 
 void ZellDatabase::DeleteDataBaseTimeItem(const QString &tableName, long now)
@@ -158,9 +133,8 @@ void ZellDatabase::DeleteDataBaseItem(const QString & /*tableName*/, const QStri
 void ZellDatabase::QueryPm25Values()
 {
     qDebug() << "Querying";
-    const QSqlDatabase database = connection();
-    QSqlQuery query(database);
-    if (database.isOpen() && query.exec(QStringLiteral("Select * from pm2_5")))
+    const QSqlQuery query = execute(QStringLiteral("Select * from pm2_5"));
+    if (query.isActive())
         qDebug() << "pm data : " << query.size();
     else
         qDebug() << "ERROR";
@@ -169,41 +143,148 @@ void ZellDatabase::QueryPm25Values()
 void ZellDatabase::InsertDataBaseItem(time_t iTimeSec, const QString &tableName, int value,
                                       int value2)
 {
-    // First of all: a new scheduler re-opens the connection, and queries do not survive that.
+    // First of all: a new scheduler may open the connection anew, and queries do not survive that.
     const bool online = networkAvailable();
 
     const Table *table = findTable(tableName);
-    const QVariantList values =
-        table && table->takesBoth ? QVariantList{value, value2} : QVariantList{value2};
-    const QVariantList row = QVariantList{quint32(iTimeSec), localTimeText(iTimeSec)} + values;
-
     const bool isMain = table && table->isMain;
+    // Behind the rows that wait: each is compared with the one before.
+    if (isMain)
+        waiting.push_back({iTimeSec, tableName, value, value2});
     // Kept[insert-fail]: told for every row that the main tables do not get, one repeated included.
-    if (isMain && !repeatsLastRow(*table, values) && change(insertStatement(*table), row))
-        GetData::iLastUnixSec = iTimeSec;
-    else
+    if (!isMain || !storeWaiting())
         qDebug() << "Insert fail!";
 
     // Kept[no-wifi-tables]: they stay empty, as every new scheduler believes in its network.
     if (online)
         return;
-    if (!table || isMain || !change(insertStatement(*table), row))
+    if (!table || isMain ||
+        !change(insertStatement(*table), rowFor(*table, iTimeSec, value, value2)))
         qDebug() << "Insert NoWiFi table fail!";
 }
 
-// Executes a statement that writes. Without this a damaged file would refuse every row for ever:
-// it gives way to a new one, on which the statement is tried once more.
+// Executes one statement, unless the store is closed or rests. The query is active then.
+QSqlQuery ZellDatabase::execute(const QString &statement, const QVariantList &values)
+{
+    QSqlQuery query(storeConnection());
+    if (!storeConnection().isOpen() || !restAfterLock.hasExpired())
+        return query;
+    if (query.prepare(statement)) {
+        for (const QVariant &value : values)
+            query.addBindValue(value);
+        query.exec();
+    }
+    const Refusal refusal = refusalOf(query);
+    if (refusal == Refusal::Locked)
+        restAfterLock.setRemainingTime(lockRest);
+    if (refusal != Refusal::None)
+        lastTrouble = query.lastError().databaseText();
+    return query;
+}
+
+// Executes a statement that writes. A file that was closed, moved or emptied is opened anew for it,
+// one that refuses it all the same gives way to a new one, so that logging never ends for good.
 bool ZellDatabase::change(const QString &statement, const QVariantList &values)
 {
-    const QSqlError error = execute(statement, values);
-    if (!isDamage(error))
-        return !error.isValid();
-    QSqlDatabase database = connection();
-    const QString fileName = database.databaseName();
-    database.close();
-    const bool isNew = setAside(fileName);
-    openMeasurements();
-    return isNew && !execute(statement, values).isValid();
+    if (!restAfterLock.hasExpired())
+        return false;
+    QSqlQuery query = execute(statement, values);
+    if (refusalOf(query) == Refusal::Passing || refusalOf(query) == Refusal::Unusable)
+        query = changeAnew(statement, values);
+    if (refusalOf(query) != Refusal::Unusable)
+        return query.isActive();
+    closeStore();
+    setAside(measurements());
+    return changeAnew(statement, values).isActive();
+}
+
+QSqlQuery ZellDatabase::changeAnew(const QString &statement, const QVariantList &values)
+{
+    closeStore();
+    if (!openStore(measurements()))
+        lastTrouble = QStringLiteral("it cannot be opened");
+    // Without its tables a sound file would look unusable.
+    if (!storeConnection().isOpen() || !makeTables())
+        return QSqlQuery(storeConnection());
+    return execute(statement, values);
+}
+
+// False where it has to be tried again. That a table exists, or is none, is for the rows to find.
+bool ZellDatabase::makeTables()
+{
+    for (const QString &statement : tableStatements()) {
+        const Refusal refusal = refusalOf(execute(statement));
+        if (refusal == Refusal::Locked || refusal == Refusal::Passing)
+            return false;
+    }
+    return true;
+}
+
+// Whether the row stored last holds its values. One that is missing or unreadable differs.
+bool ZellDatabase::repeatsLastRow(const Row &row)
+{
+    const Table &table = *findTable(row.tableName);
+    const QVariantList values = valuesFor(table, row.value, row.value2);
+    QSqlQuery last = execute(QStringLiteral("select %1 From %2 where UnixSec = %3")
+                                 .arg(table.columns, table.name)
+                                 .arg(GetData::iLastUnixSec));
+    if (!last.next())
+        return false;
+    for (int column = 0; column < values.size(); ++column) {
+        if (last.value(column).toInt() != values[column].toInt())
+            return false;
+    }
+    return true;
+}
+
+bool ZellDatabase::insert(const Row &row)
+{
+    const Table &table = *findTable(row.tableName);
+    if (!change(insertStatement(table), rowFor(table, row.time, row.value, row.value2)))
+        return false;
+    GetData::iLastUnixSec = row.time;
+    return true;
+}
+
+// Stores the rows that wait, the oldest first. Whether the last of them got into its table.
+bool ZellDatabase::storeWaiting()
+{
+    bool isStored = false;
+    while (!waiting.empty()) {
+        isStored = !repeatsLastRow(waiting.front());
+        if (isStored && !insert(waiting.front())) {
+            letRowsWait();
+            return false;
+        }
+        waiting.pop_front();
+    }
+    if (retryTimer.isActive())
+        qDebug() << "DB takes rows again, lost meanwhile:" << lostRows;
+    retryTimer.stop();
+    lostRows = 0;
+    return isStored;
+}
+
+void ZellDatabase::letRowsWait()
+{
+    if (waiting.size() > mostWaiting) {
+        waiting.pop_front();
+        ++lostRows;
+    }
+    if (retryTimer.isActive())
+        return;
+    qDebug() << "DB takes no rows, they wait:" << lastTrouble;
+    retryTimer.start(retryPeriod);
+}
+
+void ZellDatabase::retry()
+{
+    // Nobody waits for this attempt, so it does not wait for a lock.
+    restAfterLock = {};
+    waitForLock(0ms);
+    if (openStore(measurements()) && makeTables())
+        storeWaiting();
+    waitForLock(lockLimit);
 }
 
 // Builds the scheduler that every insert adds and asks it whether there is a network.

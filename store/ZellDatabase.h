@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QDeadlineTimer>
+#include <QSqlQuery>
 #include <QString>
 #include <QThread>
+#include <QTimer>
 #include <QVariantList>
 #include <ctime>
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -12,29 +16,33 @@ class GetData;
 /// The measurement history: one SQLite file on Qt's default connection.
 ///
 /// Works in the thread of its caller, the GUI thread; its own thread never runs. A failure is told
-/// by one debug line where the function says so and is otherwise silent: nothing is retried, no
-/// error reaches the caller, and the program goes on. A locked file is waited for a tenth of a
-/// second at the most, so that the screen never freezes. A damaged file is set aside and begun
-/// anew.
+/// by one debug line where the function says so and is otherwise silent; no error reaches the
+/// caller, and the program goes on.
+///
+/// A store that takes no row for now (locked, full, read-only) gets it later: the last eight rows
+/// wait and are tried again every second. A locked file is waited for a tenth of a second a row, so
+/// that the screen never freezes. A file that will never take a row, damaged or of another shape,
+/// is set aside and begun anew.
 class ZellDatabase : public QThread
 {
     Q_OBJECT
 
 public:
     explicit ZellDatabase(QObject *parent = nullptr);
-    /// Takes the schedulers along that its inserts built.
+    /// Takes the schedulers along that its inserts built. Where this is `zelldatabase` it closes
+    /// the file, which holds everything then and may be copied.
     ~ZellDatabase() override;
 
-    /// Have no effect: CreateDataBase() opens the file and nothing closes it.
+    /// Have no effect: CreateDataBase() opens the file, the destructor closes it.
     void open_database();
     void close_database();
 
-    /// Opens "ZellQt4.db" in the working directory anew and makes its tables.
+    /// Opens "ZellQt4.db" in the working directory and makes its tables.
     void openMeasurements();
 
-    /// Opens @p fileName, made empty where it is missing, on the default connection. A connection
-    /// that is open is opened anew, which ends every query prepared on it.
-    /// Writes "Open DB fail!" where that fails.
+    /// Opens @p fileName, made empty where it is missing, on the default connection. One that is
+    /// open on another file, or on one that was moved away, is opened anew, which ends every query
+    /// prepared on it. Writes "Open DB fail!" where that fails.
     void CreateDataBase(const QString &fileName);
 
     /// Executes @p statement. Silent on failure: at every start but the first the table exists.
@@ -54,17 +62,40 @@ public slots:
     /// Stores one row taken at @p iTimeSec (Unix seconds), unless its values repeat those of the
     /// last row stored. "PM2_5" takes @p value2; "TempAndHum" takes @p value as temperature and
     /// @p value2 as humidity; the tables ending in "_NoWiFi" take rows without network only.
-    /// Writes "Insert fail!" where the main table got no row, for whatever reason.
+    /// Writes "Insert fail!" where the main table got no row yet, for whatever reason.
     void InsertDataBaseItem(time_t iTimeSec, const QString &tableName, int value, int value2);
 
 protected:
     void run() override;
 
+private slots:
+    void retry();
+
 private:
+    struct Row
+    {
+        std::time_t time;
+        QString tableName;
+        int value, value2;
+    };
+
+    QSqlQuery execute(const QString &statement, const QVariantList &values = {});
     bool change(const QString &statement, const QVariantList &values);
+    QSqlQuery changeAnew(const QString &statement, const QVariantList &values);
+    bool makeTables();
+    bool repeatsLastRow(const Row &row);
+    bool insert(const Row &row);
+    bool storeWaiting();
+    void letRowsWait();
     bool networkAvailable();
 
     std::vector<std::unique_ptr<GetData>> schedulers;
+    std::deque<Row> waiting;
+    int lostRows = 0;
+    // Runs while rows wait.
+    QTimer retryTimer{this};
+    QDeadlineTimer restAfterLock;
+    QString lastTrouble;
 };
 
 /// The one database of the program. Set by main before the first scheduler is built; null again

@@ -1,14 +1,13 @@
 #include "acquisition/GetData.h"
+#include "store/StoreFile.h"
 #include "store/ZellDatabase.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/TableRows.h"
 
-#include <QDeadlineTimer>
-#include <QSqlDatabase>
-#include <QSqlQuery>
-#include <csignal>
-#include <sys/resource.h>
+#include <QDir>
+#include <QElapsedTimer>
+#include <sys/stat.h>
 
 class TestZellDatabase : public QObject
 {
@@ -24,20 +23,21 @@ class TestZellDatabase : public QObject
         const char *name;
         qint64 now, cutoff;
     };
-    struct Trouble
+    struct Shape
     {
         const char *name;
-        bool isDiskFull;
+        void (*spoil)();
+        const char *aside = "";
     };
-    struct Damage
+    struct Refused
     {
-        const char *name, *aside;
-        qint64 size;
+        const char *name, *variable;
     };
 
-    static QString read(const QString &statement)
+    static QString read(const QString &statement,
+                        const QSqlDatabase &connection = storeConnection())
     {
-        QSqlQuery query(statement);
+        QSqlQuery query(statement, connection);
         QStringList rows;
         while (query.next())
             rows << query.value(0).toString();
@@ -53,7 +53,14 @@ private slots:
         const GetData scheduler;
     }
 
-    void cleanup() { QVERIFY(QFile::remove("ZellQt4.db")); }
+    void cleanup()
+    {
+        database.reset();
+        QDir folder(QDir::currentPath());
+        folder.removeRecursively();
+        QVERIFY(folder.mkpath("."));
+        QDir::setCurrent(folder.path());
+    }
 
     void inserts()
     {
@@ -113,61 +120,131 @@ private slots:
         const GetData startedAnew;
         QCOMPARE(read("select count(*) from TempAndHum"), "42");
         QCOMPARE(read("select Time from TempAndHum where Temp = 5"), "2024-03-09 12:00:05");
-        QVERIFY(QFile::remove("ZellQt4.db"));
-        database->InsertDataBaseItem(noon, "TempAndHum", 7, 0);
-        QCOMPARE(read("select Temp from TempAndHum"), "7");
+        // Merged into the one file, which may be copied.
+        database.reset();
+        QCOMPARE(QDir().entryList(QDir::Files), QStringList{"ZellQt4.db"});
+        QVERIFY(openStore("ZellQt4.db"));
+        QCOMPARE(read("select count(*) from TempAndHum"), "42");
     }
 
-    void rowIsLostButNotTheNext_data()
+    void noShapeEndsLogging_data()
     {
-        addRows<Trouble>({{"locked file", false}, {"full disk", true}});
+        static constexpr auto close = [] { closeStore(); };
+        static constexpr auto dropTable = [] { read("drop table TempAndHum"); };
+        static constexpr auto move = [] { QFile::rename("ZellQt4.db", "elsewhere.db"); };
+        static constexpr auto remove = [] { QFile::remove("ZellQt4.db"); };
+        static constexpr auto otherColumns = [] {
+            read("drop table TempAndHum");
+            read("create table TempAndHum (Temp int)");
+            closeStore();
+        };
+        static constexpr auto view = [] {
+            read("drop table TempAndHum");
+            read("create view TempAndHum as select 1 UnixSec, '' Time, 2 Temp, 3 Hum");
+            closeStore();
+        };
+        static constexpr auto folder = [] {
+            remove();
+            QDir().mkdir("ZellQt4.db");
+        };
+        static constexpr auto pipe = [] {
+            remove();
+            mkfifo("ZellQt4.db", 0600);
+        };
+        static constexpr auto journalFolder = [] {
+            closeStore();
+            QDir().mkpath("ZellQt4.db-journal/full");
+        };
+        static constexpr auto noDatabase = [] {
+            closeStore();
+            QFile::resize("ZellQt4.db", 3);
+        };
+        static constexpr auto torn = [] {
+            read("insert into PM2_5 with recursive n(i) as (select 1 union all select i + 1 from n "
+                 "where i < 1000) select i, '', 7 from n");
+            closeStore();
+            QFile::resize("ZellQt4.db", 5000);
+        };
+        static constexpr auto tenth = [] {
+            for (int number = 1; number <= 9; ++number)
+                QFile::copy("ZellQt4.db", QString("ZellQt4.db.damaged%1").arg(number));
+            noDatabase();
+        };
+        addRows<Shape>({{"closed connection", close},
+                        {"missing table", dropTable},
+                        {"moved file", move},
+                        {"removed file", remove},
+                        {"other columns", otherColumns, "ZellQt4.db.damaged1"},
+                        {"view", view, "ZellQt4.db.damaged1"},
+                        {"folder", folder, "ZellQt4.db.damaged1"},
+                        {"pipe", pipe, "ZellQt4.db.damaged1"},
+                        {"folder as journal", journalFolder, "ZellQt4.db-journal.damaged1/full"},
+                        {"no database", noDatabase, "ZellQt4.db.damaged1"},
+                        {"torn", torn, "ZellQt4.db.damaged1"},
+                        {"tenth damaged file", tenth, "ZellQt4.db.damaged9"}});
     }
 
-    void rowIsLostButNotTheNext()
+    void noShapeEndsLogging()
     {
-        QFETCH(Trouble, row);
+        QFETCH(Shape, row);
+        row.spoil();
+        const QByteArray spoilt =
+            QFileInfo("ZellQt4.db").isFile() ? Environment::contentOf("ZellQt4.db") : QByteArray();
+        const MessageLog log;
+        database->DeleteDataBaseTimeItem("TempAndHum", noon);
+        database->InsertDataBaseItem(noon, "TempAndHum", 23, 45);
+        database->InsertDataBaseItem(noon + 1, "PM2_5", 0, 35);
+        // What lies there now, not what the connection may still hold.
+        closeStore();
+        QVERIFY(openStore("ZellQt4.db"));
+        QCOMPARE(read("select Temp || ' ' || PM2_5 from TempAndHum, PM2_5"), "23 35");
+        QVERIFY(!log.contains("Insert fail!"));
+        QVERIFY(!log.contains("QSql"));
+        QCOMPARE(log.count("set aside"), *row.aside == '\0' ? 0 : 1);
+        if (*row.aside == '\0' || !QFileInfo(row.aside).isFile())
+            return;
+        QCOMPARE(Environment::contentOf(row.aside), spoilt);
+    }
+
+    void rowsWaitForTheStore_data()
+    {
+        addRows<Refused>({{"locked file", ""},
+                          {"full card", "ZELL_CARD_FULL"},
+                          {"read-only card", "ZELL_CARD_READ_ONLY"}});
+    }
+
+    void rowsWaitForTheStore()
+    {
+        QFETCH(Refused, row);
         auto other = QSqlDatabase::addDatabase("QSQLITE", "other program");
         other.setDatabaseName("ZellQt4.db");
         QVERIFY(other.open());
-        rlimit room{};
-        getrlimit(RLIMIT_FSIZE, &room);
-        const rlimit none{0, room.rlim_max};
-        signal(SIGXFSZ, SIG_IGN);
-        other.exec(row.isDiskFull ? "" : "begin exclusive");
-        setrlimit(RLIMIT_FSIZE, row.isDiskFull ? &none : &room);
+        // As when the program starts on such a card.
+        closeStore();
+        if (*row.variable == '\0') {
+            // Keeps readers out, too.
+            read("pragma locking_mode = exclusive", other);
+            read("begin exclusive", other);
+        }
+        qputenv("ZELL_CARD", QFile::encodeName(QDir::currentPath()));
+        qputenv(row.variable, "/");
         const MessageLog log;
-        const QDeadlineTimer deadline(2000);
-        database->DeleteDataBaseTimeItem("TempAndHum", noon);
-        database->InsertDataBaseItem(noon, "TempAndHum", 23, 45);
-        const bool isQuick = !deadline.hasExpired();
-        setrlimit(RLIMIT_FSIZE, &room);
-        other.exec("rollback");
-        QVERIFY(isQuick);
-        QCOMPARE(log.count("Insert fail!"), 1);
+        qint64 longest = 0;
+        for (int number = 1; number <= 10; ++number) {
+            QElapsedTimer standstill;
+            standstill.start();
+            database->DeleteDataBaseTimeItem("TempAndHum", noon);
+            database->InsertDataBaseItem(noon + number, "TempAndHum", number, 45);
+            longest = std::max(longest, standstill.elapsed());
+        }
+        QCOMPARE(log.count("Insert fail!"), 10);
+        QCOMPARE(log.count("DB takes no rows"), 1);
+        QVERIFY2(longest < 300, qPrintable(QString("%1 ms").arg(longest)));
+        qunsetenv(row.variable);
+        other.close();
+        QTRY_VERIFY_WITH_TIMEOUT(log.contains("DB takes rows again, lost meanwhile: 2"), 1500);
+        QCOMPARE(read("select count(*) || ' ' || min(Temp) from TempAndHum"), "8 3");
         QVERIFY(!log.contains("QSql"));
-        database->InsertDataBaseItem(noon + 1, "TempAndHum", 23, 45);
-        QCOMPARE(read("select Hum from TempAndHum"), "45");
-    }
-
-    void damagedFileIsSetAside_data()
-    {
-        addRows<Damage>(
-            {{"no database", "ZellQt4.db.damaged1", 3}, {"torn", "ZellQt4.db.damaged2", 5000}});
-    }
-
-    void damagedFileIsSetAside()
-    {
-        QFETCH(Damage, row);
-        read("insert into PM2_5 with recursive n(i) as (select 1 union all select i + 1 from n "
-             "where i < 1000) select i, '', 7 from n");
-        QVERIFY(QFile::resize("ZellQt4.db", row.size));
-        const QByteArray damaged = Environment::contentOf("ZellQt4.db");
-        const GetData startedAnew;
-        database->InsertDataBaseItem(noon, "TempAndHum", 23, 45);
-        database->DeleteDataBaseTimeItem("PM2_5", noon);
-        database->InsertDataBaseItem(noon + 1, "PM2_5", 0, 35);
-        QCOMPARE(read("select Temp || ' ' || PM2_5 from TempAndHum, PM2_5"), "23 35");
-        QCOMPARE(Environment::contentOf(row.aside), damaged);
     }
 };
 
