@@ -41,7 +41,8 @@ QByteArray scannerScript(const QStringList &networks, bool hangs)
         scan += cell(i + 1, networks.at(i));
     // The quoted end mark keeps the shell from reading anything into the names.
     return head + "cat <<'END OF SCAN'\nwlan1     Scan completed :\n" + scan + "END OF SCAN\n" +
-           (hangs ? "sleep 1000\n" : "");
+           // Nobody is left to end it where the program that asked is gone.
+           (hangs ? "while kill -0 $PPID 2> /dev/null; do sleep 1; done\n" : "");
 }
 
 } // namespace simulator
