@@ -2,7 +2,6 @@
 #include "benchmarks/support/Yardstick.h"
 #include "connectivity/KeyBorad.h"
 #include "pages/Ground.h"
-#include "testkit/Touch.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -24,7 +23,8 @@ struct Host
         line.setEchoMode(QLineEdit::Password);
         new KeyBorad(container);
         showOnScreen(&page);
-        tapAt(&page, key);
+        pressMouse(&page, key);
+        releaseMouse(&page, key);
         repaint();
     }
 
@@ -43,11 +43,11 @@ void keyPress(benchmark::State &state)
     Yardstick::measure(
         state, limit,
         [&host] {
-            pressAt(&host.page, Host::key);
+            pressMouse(&host.page, Host::key);
             repaint();
         },
         [&host] {
-            releaseAt(&host.page, Host::key);
+            releaseMouse(&host.page, Host::key);
             host.type();
             repaint();
         });
@@ -60,12 +60,12 @@ void keyRelease(benchmark::State &state)
     Yardstick::measure(
         state, limit,
         [&host] {
-            releaseAt(&host.page, Host::key);
+            releaseMouse(&host.page, Host::key);
             repaint();
         },
         [&host] {
             host.type();
-            pressAt(&host.page, Host::key);
+            pressMouse(&host.page, Host::key);
             repaint();
         });
 }

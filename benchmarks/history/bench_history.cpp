@@ -3,7 +3,6 @@
 #include "history/Blackboard.h"
 #include "history/DemonstrationSeries.h"
 #include "history/HistoryPage.h"
-#include "testkit/Touch.h"
 
 #include <QTabWidget>
 
@@ -36,11 +35,11 @@ public:
         constexpr int left = 90;
         constexpr int width = 680;
         step = (step + 37) % (2 * width);
-        moveTo(&page, {left + std::abs(step - width), 300});
+        moveMouse(&page, {left + std::abs(step - width), 300});
         paint();
     }
 
-    void press() { pressAt(&page, {400, 300}); }
+    void press() { pressMouse(&page, {400, 300}); }
     static void paint()
     {
         // The read-out moves while the chart is painted and is itself painted one round later.

@@ -4,7 +4,6 @@
 #include "pages/Page.h"
 #include "settings/QmlApplicationViewer.h"
 #include "testkit/Environment.h"
-#include "testkit/Touch.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
@@ -68,7 +67,7 @@ void Visitor::tapNewest(const char *name)
     }
     if (menu.is_allowed_slide())
         menu.findChild<QScrollArea *>()->verticalScrollBar()->setValue(newest->y());
-    tap(newest);
+    click(newest);
     settle();
 }
 
