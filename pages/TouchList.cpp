@@ -23,6 +23,13 @@ TouchList::TouchList(QAbstractItemView *listView)
 
 bool TouchList::eventFilter(QObject *watched, QEvent *event)
 {
+    // The view would choose on the second press of a double tap, and it must not be deleted then.
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        const auto *second = static_cast<QMouseEvent *>(event);
+        QMouseEvent press(QEvent::MouseButtonPress, second->position(), second->globalPosition(),
+                          second->button(), second->buttons(), second->modifiers());
+        return eventFilter(watched, &press);
+    }
     if (!scroll->follow(watched, event))
         return QObject::eventFilter(watched, event);
 

@@ -11,7 +11,7 @@ class QAbstractItemView;
 ///
 /// The view itself selects on press, so that every drag would choose the row it happens to begin
 /// on; here the choice falls when the finger is lifted near the place where it went down. The view
-/// gets none of these events any more; a double tap goes on to it. The selection is made within the
+/// gets none of these events any more; a double tap is two taps. The selection is made within the
 /// release, and its receivers may delete the view. Owned by the view. GUI thread.
 class TouchList : public QObject
 {
