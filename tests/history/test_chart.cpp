@@ -278,11 +278,9 @@ private slots:
         QCOMPARE(log.lines(),
                  QStringList({"Blackboard: left out 1 readings that are no numbers", "1 3 1 1"}));
         QCOMPARE(board.searchNearestTime(0), yesterday);
-        QCOMPARE(board.getDayTimeRange(4), Days(today, today + day));
         QVERIFY(!Blackboard::is0oclock(today));
         QVERIFY(Blackboard::is0oclock(today + 1));
-        QCOMPARE(board.timeXToScreenX(12 * hour, true), 404.5F);
-        QCOMPARE(board.timeXToScreenX(4 * hour, false), 404.5F);
+        QCOMPARE(board.getDayTimeRange(4), Days(today, today + day));
         // The steps of the axis do not change the range.
         board.valueDivisions = 4;
         board.setValueMap(readings, 2);
@@ -291,8 +289,9 @@ private slots:
         QCOMPARE(board.screenYToValueY(60 + 336 - 244), 25.0F);
         board.resize(600, 300);
         board.painted();
-        QCOMPARE(board.timeXToScreenX(12 * hour, true), 277.5F);
         QCOMPARE(board.valueYToScreenY(20), 236.0F);
+        QCOMPARE(board.timeXToScreenX(12 * hour, true), 277.5F);
+        QCOMPARE(board.timeXToScreenX(4 * hour, false), 277.5F);
         board.mode = 1;
         QCOMPARE(board.getDayTimeRange(6), Days(today - 6 * day, today - 5 * day));
         QCOMPARE(board.getDayTimeRange(7), Days(today - 6 * day, today + day));

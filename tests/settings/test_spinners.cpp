@@ -80,14 +80,11 @@ private slots:
         load("date");
         // In the last hour before the one that is left out.
         host->rootObject()->setProperty("today", QDateTime({2024, 3, 30}, {23, 30}));
-        QSet<QString> names;
-        for (int index = 0; index < 365; ++index) {
-            QString name;
-            QMetaObject::invokeMethod(host->rootObject(), "dayText", Q_RETURN_ARG(QString, name),
-                                      Q_ARG(int, index));
-            names.insert(name);
-        }
-        QCOMPARE(names.size(), 365);
+        QStringList names(365);
+        for (int day = 0; day < names.size(); ++day)
+            QMetaObject::invokeMethod(host->rootObject(), "dayText",
+                                      Q_RETURN_ARG(QString, names[day]), Q_ARG(int, day));
+        QCOMPARE(names.removeDuplicates(), 0);
         QCOMPARE(host->rootObject()->property("untilMidnight").toInt(), 1000);
     }
 
