@@ -79,23 +79,18 @@ KeyButton::KeyButton(KeyKind kind, QWidget *parent)
 
 bool KeyButton::event(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::Polish:
-        // This is where the style sheet would get hold of the key.
+    // Polishing is where the style sheet would get hold of the key.
+    if (event->type() == QEvent::Polish)
         return true;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease: {
-        // A button paints itself at once, and what its signals change a second time.
-        const QPointer<QWidget> guard(this);
-        setUpdatesEnabled(false);
-        QPushButton::event(event);
-        if (guard)
-            setUpdatesEnabled(true);
-        return true;
-    }
-    default:
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease)
         return QPushButton::event(event);
-    }
+    // A button paints itself at once, and what its signals change a second time.
+    const QPointer<QWidget> guard(this);
+    setUpdatesEnabled(false);
+    QPushButton::event(event);
+    if (guard)
+        setUpdatesEnabled(true);
+    return true;
 }
 
 bool KeyButton::hitButton(const QPoint &position) const

@@ -1,8 +1,7 @@
 #include "settings/DateTimePage.h"
 
+#include "settings/TimeSpinners.h"
 #include "ui_DateTimePage.h"
-
-#include <QTime>
 
 DateTimePage::DateTimePage(QWidget *parent)
     : SinglePage(parent)
@@ -16,19 +15,15 @@ void DateTimePage::list_init()
     ui->widget_hour->move(is24Hour ? 452 : 362, ui->widget_hour->y());
     ui->widget_min->move(is24Hour ? 612 : 512, ui->widget_min->y());
     loadSpinner(ui->widget_date, QStringLiteral("date"), 0);
-    timeSpinners().load(is24Hour, QTime::currentTime());
+    const TimeSpinners spinners{ui->widget_hour, ui->widget_min, ui->widget_amp};
+    spinners.load(is24Hour, QTime::currentTime());
     ui->widget_date->setFocus();
     update();
 }
 
-TimeSpinners DateTimePage::timeSpinners() const
-{
-    return {ui->widget_hour, ui->widget_min, ui->widget_amp};
-}
-
 void DateTimePage::on_button_back_clicked()
 {
-    ui->widget_date->hide();
-    timeSpinners().hide();
+    for (auto *wheel : findChildren<QmlApplicationViewer *>())
+        wheel->hide();
     leave();
 }

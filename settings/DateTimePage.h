@@ -1,7 +1,6 @@
 #pragma once
 
 #include "pages/FormPage.h"
-#include "settings/TimeSpinners.h"
 
 namespace Ui {
 class DateTimePage;
@@ -26,7 +25,5 @@ public:
     void on_button_back_clicked() override;
 
 private:
-    TimeSpinners timeSpinners() const;
-
     bool is24Hour = true;
 };

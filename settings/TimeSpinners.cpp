@@ -49,9 +49,3 @@ void TimeSpinners::load(bool use24Hour, const QTime &start) const
     }
     loadSpinner(minute, QStringLiteral("minute"), start.minute());
 }
-
-void TimeSpinners::hide() const
-{
-    for (QmlApplicationViewer *host : {hour, minute, amp})
-        host->hide();
-}

@@ -22,6 +22,4 @@ struct TimeSpinners
 
     /// Loads all wheels afresh, @p start in their middle.
     void load(bool use24Hour, const QTime &start) const;
-    /// Takes the wheels off the screen, for a page that is left and will be loaded again.
-    void hide() const;
 };

@@ -11,21 +11,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto sensorInterval = 1s;
-
-QString sliderStyle(const char *left, const char *right)
-{
-    // Kept[handle-border]: its width is taken back at once, as a negative one tears the handle
-    // apart.
-    return QStringLiteral(
-               "QSlider::groove { background: transparent; }"
-               "QSlider::handle { width: 72px; border: -36px solid #212121; border-width: 0px;"
-               " border-image: url(:/resource/images/optionPage/adjustLight/sliderHandle.png); }"
-               "QSlider::sub-page { margin: 30px 0px 30px 36px; border-width: 0px 6px;"
-               " border-image: url(:/resource/images/optionPage/adjustLight/%1) 0 6; }"
-               "QSlider::add-page { margin: 30px 36px 30px 0px; border-width: 0px 6px;"
-               " border-image: url(:/resource/images/optionPage/adjustLight/%2) 0 6; }")
-        .arg(QLatin1String(left), QLatin1String(right));
-}
 } // namespace
 
 adjustLight::adjustLight(QWidget *parent)
@@ -96,5 +81,16 @@ void adjustLight::styleSlider(Groove wanted)
     const char *const left = wanted == Groove::Low ? "sliderBackground2.png" : "sliderFront.png";
     const char *const right =
         wanted == Groove::Full ? "sliderBackground2.png" : "sliderBackground.png";
-    ui->slider_light->setStyleSheet(sliderStyle(left, right));
+    // Kept[handle-border]: its width is taken back at once, as a negative one tears the handle
+    // apart.
+    ui->slider_light->setStyleSheet(
+        QStringLiteral(
+            "QSlider::groove { background: transparent; }"
+            "QSlider::handle { width: 72px; border: -36px solid #212121; border-width: 0px;"
+            " border-image: url(:/resource/images/optionPage/adjustLight/sliderHandle.png); }"
+            "QSlider::sub-page { margin: 30px 0px 30px 36px; border-width: 0px 6px;"
+            " border-image: url(:/resource/images/optionPage/adjustLight/%1) 0 6; }"
+            "QSlider::add-page { margin: 30px 36px 30px 0px; border-width: 0px 6px;"
+            " border-image: url(:/resource/images/optionPage/adjustLight/%2) 0 6; }")
+            .arg(QLatin1String(left), QLatin1String(right)));
 }
