@@ -50,7 +50,7 @@ private slots:
         QVERIFY(log.contains("set network locate"));
         tap(on("button_search"));
         tap(visibleButton(page.get(), "b"));
-        tap(on("button_delete"));
+        tapAt(page.get(), {759, 126}); // by its place: a key has the name of the button, too
         QCOMPARE(on("lineEdit")->property("text").toString(), "");
         tap(visibleButton(page.get(), "b"));
 
