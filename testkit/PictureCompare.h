@@ -9,6 +9,7 @@
 ///
 /// Text is rasterised a little differently from one machine to the next, so a pixel agrees when it
 /// could stand between those around it, in both pictures. What moves by two pixels, vanishes or
-/// changes its colour leaves a patch that does not, the faint grid of the chart included. With
+/// changes its colour leaves a patch that does not, the faint grid of the chart included;
+/// one of 16 bits a pixel is allowed more. With
 /// ZELL_RENEW_PICTURES=1 in the environment the reference is written instead.
 QString pictureDifference(const QImage &picture, const QString &folder, const QString &fileName);
