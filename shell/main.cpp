@@ -5,6 +5,7 @@
 #include "pages/Look.h"
 #include "shell/Global_cfg.h"
 #include "shell/MainWindow.h"
+#include "shell/Watchdog.h"
 #include "store/ZellDatabase.h"
 
 #include <QApplication>
@@ -57,6 +58,7 @@ int main(int argc, char *argv[])
     MainWindow window;
     window.setGeometry(QRect(QPoint(0, 0), Look::screen));
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    const Watchdog watchdog(window);
     window.show();
     return QApplication::exec();
 }

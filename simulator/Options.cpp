@@ -8,6 +8,7 @@ namespace simulator {
 namespace {
 // Beyond this a day passes in less than a tenth of a second.
 constexpr double highestSpeed = 1e6;
+constexpr uint longestPatience = 3600;
 
 OptionsAnswer mistake(const QString &text)
 {
@@ -46,6 +47,7 @@ void describe(QCommandLineParser &parser)
         {"scenario", "What the device goes through.", "NAME", defaultScenario},
         {"speed", "How much faster than the clock the sensors' curves run.", "N", "1"},
         {"seed", "Start of the random numbers; the same seed gives the same run.", "N", "1"},
+        {"watchdog", "Starts a command anew that gives no beat for so long.", "SECONDS", "0"},
         {"list", "Lists the scenarios."},
         {{"h", "help"}, "Shows this help."},
     });
@@ -80,6 +82,11 @@ std::variant<Options, OptionsAnswer> parseOptions(const QStringList &arguments)
         return mistake(
             QStringLiteral("--seed takes a whole number from 0 to 4294967295, not \"%1\"")
                 .arg(parser.value("seed")));
+    const uint patience = parser.value("watchdog").toUInt(&isNumber);
+    if (!isNumber || patience > longestPatience)
+        return mistake(QStringLiteral("--watchdog takes a whole number up to %1, not \"%2\"")
+                           .arg(longestPatience)
+                           .arg(parser.value("watchdog")));
     if (parser.isSet("root") && parser.value("root").isEmpty())
         return mistake(QStringLiteral("--root takes a folder"));
 
@@ -87,7 +94,8 @@ std::variant<Options, OptionsAnswer> parseOptions(const QStringList &arguments)
     return Options{.root =
                        root.isEmpty() ? QString() : QDir::cleanPath(QDir().absoluteFilePath(root)),
                    .device = {.scenario = *scenario, .speed = speed, .seed = seed},
-                   .command = parser.positionalArguments()};
+                   .command = parser.positionalArguments(),
+                   .patience = std::chrono::seconds(patience)};
 }
 
 } // namespace simulator

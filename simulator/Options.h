@@ -3,6 +3,7 @@
 #include "simulator/SimulatedDevice.h"
 
 #include <QStringList>
+#include <chrono>
 #include <variant>
 
 namespace simulator {
@@ -12,7 +13,8 @@ struct Options
 {
     QString root; ///< absolute; empty: a temporary folder
     SimulatedDevice::Settings device;
-    QStringList command; ///< empty: run until interrupted
+    QStringList command;              ///< empty: run until interrupted
+    std::chrono::seconds patience{0}; ///< with a command that gives no beat; 0: any time
 };
 
 /// An answer instead of a run.

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTextStream>
+#include <utility>
 
 namespace simulator {
 namespace {
@@ -26,6 +27,10 @@ Session::Session(const Options &sessionOptions, QObject *parent)
     }
     connect(&interrupts, &TerminationSignals::received, this, &Session::onInterrupt);
     connect(&requestWatcher, &QFileSystemWatcher::directoryChanged, this, &Session::onRequest);
+    connect(&notifications, &NotifySocket::received, this, &Session::onNotification);
+    connect(&patience, &QTimer::timeout, this, &Session::onSilence);
+    patience.setSingleShot(true);
+    patience.setInterval(options.patience);
 }
 
 void Session::start()
@@ -36,7 +41,7 @@ void Session::start()
     }
     requestWatcher.addPath(device->deviceRoot().requestFolder());
     if (!options.command.isEmpty()) {
-        runner = std::make_unique<ProgramRunner>(options.command, device->environment());
+        runner = std::make_unique<ProgramRunner>(options.command, environment());
         connect(runner.get(), &ProgramRunner::ended, this, &Session::onCommandEnded);
         startCommand();
         return;
@@ -57,6 +62,19 @@ bool Session::startDevice()
     if (!started)
         tell(problem);
     return started;
+}
+
+QProcessEnvironment Session::environment()
+{
+    QProcessEnvironment environment = device->environment();
+    if (options.patience.count() > 0) {
+        const std::chrono::microseconds watchdog = options.patience;
+        environment.insert("NOTIFY_SOCKET", QString::fromLatin1(notifications.address()));
+        environment.insert("WATCHDOG_USEC", QString::number(watchdog.count()));
+        // Left by a service manager of this process, it would name another one.
+        environment.remove("WATCHDOG_PID");
+    }
+    return environment;
 }
 
 void Session::startCommand()
@@ -87,14 +105,32 @@ void Session::onRequest()
         tell(QStringLiteral("asked for a restart; start the program again yourself"));
 }
 
+void Session::onNotification(const QByteArray &text)
+{
+    if (text == "READY=1")
+        tell(QStringLiteral("the program is ready"));
+    patience.start();
+}
+
+void Session::onSilence()
+{
+    tell(QStringLiteral("no beat for %1 s, the program is started again")
+             .arg(options.patience.count()));
+    isSilent = true;
+    runner->kill();
+}
+
 void Session::onCommandEnded(int status)
 {
     // The program may end by itself before the request is noticed; it counts all the same.
-    if (isEnding || !takeRestartRequest()) {
+    patience.stop();
+    const bool isAsked = takeRestartRequest();
+    if (isEnding || !(isAsked || std::exchange(isSilent, false))) {
         emit ended(status);
         return;
     }
-    tell(QStringLiteral("the program asked for its restart"));
+    if (isAsked)
+        tell(QStringLiteral("the program asked for its restart"));
     startCommand();
 }
 

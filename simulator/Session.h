@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/TerminationSignals.h"
+#include "simulator/NotifySocket.h"
 #include "simulator/Options.h"
 #include "simulator/ProgramRunner.h"
 #include "simulator/SimulatedDevice.h"
@@ -8,6 +9,7 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <memory>
 
 namespace simulator {
@@ -29,9 +31,12 @@ signals:
 
 private:
     bool startDevice();
+    QProcessEnvironment environment();
     void startCommand();
     void onInterrupt();
     void onRequest();
+    void onNotification(const QByteArray &text);
+    void onSilence();
     void onCommandEnded(int status);
     bool takeRestartRequest();
 
@@ -41,8 +46,11 @@ private:
     std::unique_ptr<SimulatedDevice> device;
     std::unique_ptr<ProgramRunner> runner;
     QFileSystemWatcher requestWatcher;
+    NotifySocket notifications;
+    QTimer patience;
     Options options;
     bool isEnding = false;
+    bool isSilent = false;
 };
 
 } // namespace simulator

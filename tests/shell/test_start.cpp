@@ -1,11 +1,15 @@
 #include "shell/MainWindow.h"
+#include "shell/Watchdog.h"
 #include "simulator/FirmwareServer.h"
+#include "simulator/NotifySocket.h"
 #include "testkit/CallSlot.h"
 #include "testkit/PseudoTerminal.h"
 #include "testkit/TableRows.h"
 
 #include <QProcess>
+#include <QSignalSpy>
 #include <QStackedWidget>
+#include <QThread>
 #include <csignal>
 
 class TestStart : public QObject
@@ -61,6 +65,51 @@ private slots:
             QVERIFY(before.contains(known));
             QCOMPARE(Environment::contentOf(supply), "0");
         }
+    }
+
+    void beatComesFromTheEventLoop()
+    {
+        const simulator::NotifySocket socket;
+        QSignalSpy texts(&socket, &simulator::NotifySocket::received);
+        qputenv("NOTIFY_SOCKET", socket.address());
+        qputenv("WATCHDOG_USEC", "200000");
+        QWidget screen;
+        const Watchdog watchdog(screen);
+        QVERIFY(!texts.wait(200)); // nothing is painted yet
+        screen.show();
+        QTRY_VERIFY(texts.size() > 3);
+        QCOMPARE(texts.takeFirst().constFirst().toByteArray(), "READY=1");
+        QCOMPARE(texts.constFirst().constFirst().toByteArray(), "WATCHDOG=1");
+
+        texts.clear();
+        QThread::msleep(600); // frozen for a dozen beats
+        QCoreApplication::processEvents();
+        QVERIFY(texts.size() <= 2);
+        QTRY_VERIFY(texts.size() > 3);
+        qunsetenv("NOTIFY_SOCKET");
+    }
+
+    void frozenProgramIsStartedAnew()
+    {
+        QProcess simulator;
+        simulator.setProcessChannelMode(QProcess::MergedChannels);
+        simulator.start(ZELL_SIMULATOR, {"--watchdog", "2", "--", ZELL_PROGRAM});
+        QElapsedTimer clock;
+        clock.start();
+        const auto starts = [&] { return (output += simulator.readAll()).count("is ready"); };
+        QTRY_COMPARE_WITH_TIMEOUT(starts(), 1, 20000);
+        const qint64 start = clock.restart();
+
+        const QByteArray self = QByteArray::number(simulator.processId());
+        const QByteArray child =
+            Environment::contentOf("/proc/" + self + "/task/" + self + "/children");
+        QCOMPARE(::kill(child.trimmed().toInt(), SIGSTOP), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(starts(), 2, 20000);
+        // Twice a start, as the machine may be busier now.
+        QVERIFY2(clock.elapsed() < 2000 + 2 * start, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(output.count("no beat"), 1);
+        simulator.terminate();
+        QVERIFY(simulator.waitForFinished());
     }
 
     void signalEndsItAll_data()
