@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -13,6 +14,16 @@ namespace {
 constexpr auto refreshPeriod = 1s;
 
 const QString pathVariable = QStringLiteral("PATH");
+
+// Beside the simulator in a build, among the libraries of its package where that is installed.
+QString faultsLibrary()
+{
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString built = programs.filePath(QStringLiteral("faults/libzell-faults.so"));
+    return QFile::exists(built) ? built
+                                : QDir::cleanPath(programs.filePath(
+                                      QStringLiteral("../lib/zellqt/preload/libzell-faults.so")));
+}
 
 // Null where the card has no fault.
 const char *cardVariable(StoreFault fault)
@@ -95,10 +106,9 @@ QMap<QString, QString> SimulatedDevice::variables() const
         values[QStringLiteral("ZELL_CARD")] = QDir::currentPath();
         values[QLatin1String(variable)] = root.storeFault();
     }
-    // The faults that the files themselves cannot have come from a library beside the simulator.
+    // The faults that the files themselves cannot have.
     if (values.size() > 3)
-        values[QStringLiteral("LD_PRELOAD")] =
-            QCoreApplication::applicationDirPath() + QStringLiteral("/faults/libzell-faults.so");
+        values[QStringLiteral("LD_PRELOAD")] = faultsLibrary();
     return values;
 }
 
