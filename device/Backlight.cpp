@@ -10,8 +10,9 @@ namespace {
 using namespace std::chrono_literals;
 
 // The command takes milliseconds. Every level holds the screen up while it hangs, and a finger on
-// the slider asks for dozens of them; so after a hang there is a rest in which none goes out.
-constexpr auto commandLimit = 1s;
+// the slider asks for dozens of them; so after a hang there is a rest in which none goes out, long
+// enough for the second that the command has in all.
+constexpr auto longestWait = 250ms;
 constexpr auto restAfterHang = 2s;
 } // namespace
 
@@ -45,6 +46,6 @@ void Backlight::send()
 {
     const QString tool = shellQuoted(devicePath(QStringLiteral("/bin/qtapp/baklight")));
     const QString command = QStringLiteral("%1 %2").arg(tool).arg(lastLevel);
-    if (runCommand(command, commandLimit) == CommandEnd::HitLimit)
+    if (runCommand(command, longestWait, AtLimit::EndLater) == CommandEnd::HitLimit)
         rest.start();
 }

@@ -15,8 +15,9 @@ public:
     /// Hands @p level to the device's command, its only argument.
     ///
     /// Waits for the command, so that levels reach the device in the order of the calls, but a
-    /// second at the most: then it is ended, and the device is left alone for a while before the
-    /// last level asked for meanwhile goes out. A command that fails leaves one debug line.
+    /// quarter of a second at the most. After a second it is ended, and the device is left alone
+    /// for another before the last level asked for meanwhile goes out. A command that fails leaves
+    /// one debug line.
     void setLevel(int level);
 
     /// Tells the level asked for last, whatever became of it; -1 before the first.

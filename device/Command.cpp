@@ -4,6 +4,7 @@
 
 #include <QDeadlineTimer>
 #include <QDebug>
+#include <QTimer>
 #include <algorithm>
 #include <csignal>
 #include <poll.h>
@@ -16,6 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto timeToDie = 100ms;
+constexpr auto laterIs = 750ms;
 constexpr qint64 longestSleep = 100;
 
 // Starts a shell that leads a process group of its own. 0 where that fails.
@@ -52,6 +54,15 @@ bool endsWithin(std::chrono::milliseconds limit, pid_t process)
     close(end.fd);
     return end.revents != 0;
 }
+
+// Ends the group of a shell that nobody has waited for, so that its number is still taken.
+void endGroup(pid_t shell)
+{
+    kill(-shell, SIGKILL);
+    // One that hangs in a driver does not end even now.
+    endsWithin(timeToDie, shell);
+    waitpid(shell, nullptr, WNOHANG);
+}
 } // namespace
 
 CommandEnd runCommand(const QString &command, std::chrono::milliseconds limit, AtLimit atLimit)
@@ -67,11 +78,9 @@ CommandEnd runCommand(const QString &command, std::chrono::milliseconds limit, A
         return CommandEnd::Failed;
     }
     qDebug() << "command given up, limit" << limit.count() << "ms:" << command;
-    if (atLimit == AtLimit::End) {
-        kill(-shell, SIGKILL);
-        // One that hangs in a driver does not end even now.
-        endsWithin(timeToDie, shell);
-        waitpid(shell, nullptr, WNOHANG);
-    }
+    if (atLimit == AtLimit::End)
+        endGroup(shell);
+    else if (atLimit == AtLimit::EndLater)
+        QTimer::singleShot(laterIs, [shell] { endGroup(shell); });
     return CommandEnd::HitLimit;
 }

@@ -22,6 +22,11 @@ class TestDevice : public QObject
         const char *name, *text;
         CommandEnd end;
     };
+    struct Limit
+    {
+        const char *name;
+        AtLimit atLimit;
+    };
 
     struct Light
     {
@@ -52,12 +57,19 @@ private slots:
         QCOMPARE(log.lines().size(), row.end == CommandEnd::Succeeded ? 0 : 1);
     }
 
+    void limitEndsAllThatWasStarted_data()
+    {
+        addRows<Limit>({{"at once", AtLimit::End}, {"later", AtLimit::EndLater}});
+    }
+
     void limitEndsAllThatWasStarted()
     {
-        QCOMPARE(mkfifo("pipe", 0600), 0);
+        QFETCH(Limit, row);
+        mkfifo("pipe", 0600);
         const int reader = open("pipe", O_RDONLY | O_NONBLOCK);
-        runCommand("exec 3> pipe; sleep 30 & sleep 30", 300ms);
+        runCommand("exec 3> pipe; sleep 30 & sleep 30", 300ms, row.atLimit);
         char byte = 0;
+        QCOMPARE(read(reader, &byte, 1), row.atLimit == AtLimit::End ? 0 : -1);
         QTRY_COMPARE(read(reader, &byte, 1), 0); // -1 as long as anybody could still write
         close(reader);
     }
