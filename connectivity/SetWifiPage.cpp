@@ -4,6 +4,7 @@
 #include "connectivity/WifiListRowDelegate.h"
 #include "connectivity/WifiScan.h"
 #include "connectivity/passwordKeyboard.h"
+#include "device/RegularFile.h"
 #include "pages/TouchList.h"
 #include "ui_SetWifiPage.h"
 
@@ -33,7 +34,10 @@ SetWifiPage::SetWifiPage(QWidget *parent)
             &SetWifiPage::back_default_page);
 
     QFile scanFile(scan());
-    const bool opened = scanFile.open(QIODevice::ReadOnly);
+    // One that is missing is opened all the same: it tells why it cannot be.
+    const bool opened = scanFile.exists()
+                            ? openExisting(scanFile, QIODevice::ReadOnly, FileKind::Regular)
+                            : scanFile.open(QIODevice::ReadOnly);
     qDebug() << scanFile.exists();
     if (opened && scanFile.size() != 0)
         showNetworks(scanFile);

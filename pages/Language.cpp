@@ -1,7 +1,8 @@
 #include "pages/Language.h"
 
+#include "device/RegularFile.h"
+
 #include <QDir>
-#include <QFile>
 #include <QSaveFile>
 #include <QTextStream>
 
@@ -47,13 +48,10 @@ QList<Language> Language::all()
 Language Language::stored()
 {
     QString lastLine;
-    QFile file(languageFile());
-    if (file.open(QIODevice::ReadOnly)) {
-        QTextStream stream(file.read(longestFile));
-        // Kept[last-language-line]: also an empty one.
-        while (!stream.atEnd())
-            lastLine = stream.readLine();
-    }
+    QTextStream stream(readRegularFile(languageFile(), longestFile));
+    // Kept[last-language-line]: also an empty one.
+    while (!stream.atEnd())
+        lastLine = stream.readLine();
     return Language(lastLine);
 }
 

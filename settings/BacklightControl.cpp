@@ -4,20 +4,15 @@
 #include "device/DevicePath.h"
 
 #include <QDebug>
-#include <QFile>
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
-constexpr qint64 longestNumber = 64;
-
-std::optional<int> readLightSensor()
+std::optional<int> levelIn(const QByteArray &text)
 {
-    QFile file(devicePath(QStringLiteral("/sys/devices/virtual/input/input3/light_val")));
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return std::nullopt;
     bool isNumber = false;
-    const int level = file.read(longestNumber).trimmed().toInt(&isNumber);
+    const int level = text.trimmed().toInt(&isNumber);
     return isNumber ? std::optional(level) : std::nullopt;
 }
 } // namespace
@@ -42,7 +37,8 @@ void BacklightControl::followSensor()
 {
     if (!automatic)
         return;
-    const std::optional<int> reading = readLightSensor();
+    const std::optional<int> reading = levelIn(
+        sensor.read(devicePath(QStringLiteral("/sys/devices/virtual/input/input3/light_val"))));
     if (!reading) {
         if (!std::exchange(sensorFailed, true))
             qDebug("light sensor gives no number");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/SensorReader.h"
 #include "settings/BacklightLevel.h"
 
 #include <QObject>
@@ -39,6 +40,9 @@ signals:
     void grooveChanged(BacklightLevel::Groove groove);
 
 private:
+    // One for all pages, or a slow driver would hold up the screen once for each.
+    inline static SensorReader sensor;
+
     int present = BacklightLevel::atOpening;
     bool automatic = true;
     bool leftBehind = false;

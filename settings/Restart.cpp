@@ -7,13 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 
-namespace {
-using namespace std::chrono_literals;
-
-constexpr auto scriptLimit = 5s;
-} // namespace
-
-void restartProgram()
+void restartProgram(std::chrono::milliseconds limit)
 {
     QList<QPointer<QWidget>> windows;
     for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -24,7 +18,7 @@ void restartProgram()
     const QString script = shellQuoted(devicePath(QStringLiteral("/bin/restartZellQt.sh")));
     // A script that hangs is left running: ended halfway it might have stopped this program already
     // and not started it again.
-    if (runCommand(script, scriptLimit, AtLimit::LeaveRunning) == CommandEnd::Succeeded)
+    if (runCommand(script, limit, AtLimit::LeaveRunning) == CommandEnd::Succeeded)
         return;
 
     // Shown before the event loop turns, they also keep it from ending with its last window.

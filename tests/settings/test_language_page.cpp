@@ -1,4 +1,5 @@
 #include "pages/Language.h"
+#include "settings/Restart.h"
 #include "settings/setLanguagePage.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
@@ -8,6 +9,9 @@
 #include <QTimer>
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+
+using namespace std::chrono_literals;
 
 class TestLanguagePage : public QObject
 {
@@ -17,6 +21,10 @@ class TestLanguagePage : public QObject
     {
         const char *name, *written;
         int row;
+    };
+    struct Script
+    {
+        const char *name, *commands;
     };
     struct Stored
     {
@@ -84,14 +92,28 @@ private slots:
         QCOMPARE(Language::stored().resource(), ":/resource/translation/" + row.translationFile);
     }
 
+    void pipeIsNoLanguageFile()
+    {
+        QCOMPARE(mkfifo("language.txt", 0600), 0);
+        QCOMPARE(Language::stored().translationFile(), "");
+        Language("US.qm").store();
+        QCOMPARE(Environment::contentOf("language.txt"), "US.qm");
+    }
+
+    void failingScriptLeavesTheScreenAsItWas_data()
+    {
+        addRows<Script>({{"fails", "exit 1"}, {"hangs", "sleep 1"}});
+    }
+
     // The last test: it leaves a script of its own.
     void failingScriptLeavesTheScreenAsItWas()
     {
-        Environment::writeDeviceScript("/bin/restartZellQt.sh", "exit 1");
+        QFETCH(Script, row);
+        Environment::writeDeviceScript("/bin/restartZellQt.sh", row.commands);
         MessageLog log;
-        // Leaves from within an event loop, which the closing of the last window would end.
-        QTimer::singleShot(0, page.get(), [this] {
-            leave();
+        // Restarts from within an event loop, which the closing of the last window would end.
+        QTimer::singleShot(0, page.get(), [] {
+            restartProgram(200ms);
             QTimer::singleShot(0, [] { QTimer::singleShot(0, [] { qApp->exit(1); }); });
         });
         QCOMPARE(QCoreApplication::exec(), 1);
