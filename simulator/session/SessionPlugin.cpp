@@ -37,25 +37,30 @@ void savePicture()
 }
 
 // As the platform does, so that Qt itself finds what lies under the finger.
-void tapAt(const QPoint &place)
+void touch(const QPoint &from, const QPoint &to)
 {
     QWidget *window = screen();
     if (!window)
         return;
-    const QPointF onScreen = window->mapToGlobal(place);
-    qt_handleMouseEvent(window->windowHandle(), place, onScreen, Qt::LeftButton, Qt::LeftButton,
-                        QEvent::MouseButtonPress, {}, 0);
-    qt_handleMouseEvent(window->windowHandle(), place, onScreen, Qt::NoButton, Qt::LeftButton,
-                        QEvent::MouseButtonRelease, {}, 0);
+    qt_handleMouseEvent(window->windowHandle(), from, window->mapToGlobal(from), Qt::LeftButton,
+                        Qt::LeftButton, QEvent::MouseButtonPress, {}, 0);
+    qt_handleMouseEvent(window->windowHandle(), to, window->mapToGlobal(to), Qt::NoButton,
+                        Qt::LeftButton, QEvent::MouseButtonRelease, {}, 0);
 }
 
 void planTaps(QObject *session)
 {
     for (const QString &tap : qEnvironmentVariable("ZELL_SESSION_TAPS").split(QLatin1Char(' '))) {
         int second = 0;
-        QPoint place;
-        if (std::sscanf(qPrintable(tap), "%d:%d,%d", &second, &place.rx(), &place.ry()) == 3)
-            QTimer::singleShot(std::chrono::seconds(second), session, [place] { tapAt(place); });
+        QPoint from;
+        QPoint to;
+        const int fields = std::sscanf(qPrintable(tap), "%d:%d,%d-%d,%d", &second, &from.rx(),
+                                       &from.ry(), &to.rx(), &to.ry());
+        if (fields == 3)
+            to = from;
+        if (fields == 3 || fields == 5)
+            QTimer::singleShot(std::chrono::seconds(second), session,
+                               [from, to] { touch(from, to); });
     }
 }
 
