@@ -3,6 +3,7 @@
 #include "pages/SwitchCaptions.h"
 #include "ui_adjustLight.h"
 
+#include <QPointer>
 #include <chrono>
 
 using BacklightLevel::Groove;
@@ -51,6 +52,15 @@ void adjustLight::check_lightAdjust()
 void adjustLight::beforeEmptying()
 {
     light.leaveBehind();
+    // Those that follow the sensor all do the same: the one left last goes on for the others.
+    static QPointer<adjustLight> follower;
+    if (light.isAutomatic()) {
+        if (follower)
+            follower->sensorTimer.stop();
+        follower = this;
+    } else {
+        sensorTimer.stop();
+    }
 }
 
 void adjustLight::on_button_back_clicked()
