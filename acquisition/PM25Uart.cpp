@@ -6,17 +6,33 @@
 #include "device/RegularFile.h"
 #include "shell/Global_cfg.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
 #include <QFile>
 #include <QSerialPortInfo>
+#include <chrono>
 
 namespace {
+using namespace std::chrono_literals;
+
 constexpr int testLines = 10;
 constexpr int reportedValue = 1000;
 
 QString supplySwitch()
 {
     return devicePath(QStringLiteral("/dev/Boost_En"));
+}
+
+// Looking for them takes 10 ms and more, and schedulers begin their windows together.
+QList<QSerialPortInfo> knownPorts()
+{
+    static QList<QSerialPortInfo> ports;
+    static QDeadlineTimer serves;
+    if (serves.hasExpired()) {
+        ports = QSerialPortInfo::availablePorts();
+        serves.setRemainingTime(1s);
+    }
+    return ports;
 }
 } // namespace
 
@@ -39,7 +55,7 @@ bool PM25Uart::openUart(const QString &name)
 {
     elapsed.start();
     power_on();
-    for (const QSerialPortInfo &info : QSerialPortInfo::availablePorts())
+    for (const QSerialPortInfo &info : knownPorts())
         qDebug() << "Current UART --------------- " << info.portName();
 
     leavePort();
