@@ -123,9 +123,14 @@ void Walk::tapAt(const QPoint &position)
     ::tapAt(window.get(), position);
 }
 
+QPoint Walk::placeOf(const QString &objectName) const
+{
+    return centreOf(find(objectName));
+}
+
 void Walk::tap(const QString &objectName)
 {
-    tapAt(centreOf(find(objectName)));
+    tapAt(placeOf(objectName));
 }
 
 void Walk::pressAt(const QPoint &position)
@@ -220,7 +225,9 @@ void Walk::breakSensor()
 
 void Walk::readSensorNow() const
 {
-    for (GetData *scheduler : GetData::objects())
+    // A row builds one more.
+    const QList<GetData *> schedulers = GetData::objects();
+    for (GetData *scheduler : schedulers)
         QMetaObject::invokeMethod(scheduler, "refresh_allData");
 }
 

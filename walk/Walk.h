@@ -23,6 +23,8 @@ public:
     bool sees(const QString &objectName) const;
     QString textOf(const QString &objectName) const;
 
+    /// Where a finger finds what is named @p objectName.
+    QPoint placeOf(const QString &objectName) const;
     void tap(const QString &objectName);
     void tapAt(const QPoint &position);
     void pressAt(const QPoint &position);
