@@ -14,5 +14,5 @@ function(zell_add_test name)
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${arg_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.*.debug=false;LSAN_OPTIONS=suppressions=${ZELL_SOURCE_DIR}/testkit/leaks.txt:print_suppressions=0;TZ=Asia/Shanghai;LC_ALL=C.UTF-8;FONTCONFIG_FILE=${ZELL_SOURCE_DIR}/testkit/fonts.conf")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.*.debug=false;TZ=Asia/Shanghai;LC_ALL=C.UTF-8;FONTCONFIG_FILE=${ZELL_SOURCE_DIR}/testkit/fonts.conf")
 endfunction()
