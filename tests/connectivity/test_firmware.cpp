@@ -16,6 +16,7 @@
 
 using namespace std::chrono_literals;
 using simulator::FirmwareAnswer;
+using simulator::FirmwareFault;
 using simulator::FirmwareServer;
 
 namespace {
@@ -34,10 +35,11 @@ QByteArray lengthIs(const QByteArray &length)
     return "HTTP/1.1 200 OK\r\nContent-Length: " + length + "\r\n\r\nabcdef";
 }
 
-FirmwareAnswer withoutEnd()
+FirmwareAnswer atOnce(FirmwareFault fault)
 {
-    return {
-        .head = ok("a", -1), .bodySize = -1, .chunkSize = 256 * simulator::kibibyte, .pause = 0ms};
+    FirmwareAnswer answer = simulator::firmwareAnswer(fault);
+    answer.pause = 0ms;
+    return answer;
 }
 
 qint64 residentBytes()
@@ -84,8 +86,6 @@ private slots:
             .head = ok("a", -1), .bodySize = -1, .chunkSize = 1, .pause = 10ms};
         addRows<Server>({
             {"whole package", {{.head = ok("abcdef", 6), .ending = stalls}}, true},
-            {"no length, closes", {{.head = ok("abcdef", -1), .ending = closes}}, true},
-            {"empty package", {{.head = ok("", 0), .ending = stalls}}, true},
             {"length below zero", {{.head = lengthIs("-6"), .ending = closes}}},
             {"length no number", {{.head = lengthIs("six"), .ending = closes}}},
             {"length beyond all numbers",
@@ -95,13 +95,16 @@ private slots:
             {"moved, falls silent", {{.head = moved, .ending = closes}, fallsSilent}},
             {"moved, silent on the same line", {{.head = moved, .ending = stalls}}},
             {"not found", {{.head = missing, .ending = stalls}}},
-            {"closes early", {{.head = ok("abc", 6), .ending = closes}}},
+            {"simulated: refused", {atOnce(FirmwareFault::Refused)}},
+            {"simulated: cut off", {atOnce(FirmwareFault::CutOff)}},
+            {"simulated: stalled", {atOnce(FirmwareFault::Stalled)}},
+            {"simulated: endless", {atOnce(FirmwareFault::Endless)}},
+            {"simulated: unknown length", {atOnce(FirmwareFault::UnknownLength)}, true},
+            {"simulated: zero report", {atOnce(FirmwareFault::ZeroReport)}, true},
             {"no HTTP", {{.head = QByteArray("\0\xff\n\n", 4), .ending = closes}}},
             {"silent", {silent}},
-            {"falls silent", {fallsSilent}},
             {"head without end", {{.head = longHead, .ending = stalls}}},
             {"a byte now and then", {drops}},
-            {"body without end", {withoutEnd()}},
         });
     }
 
@@ -181,7 +184,7 @@ private slots:
 
     void pageMayGoWhileItsDownloadRuns()
     {
-        FirmwareServer server({withoutEnd()});
+        FirmwareServer server({atOnce(FirmwareFault::Endless)});
         page->setLimits({60s, 60s, qint64(1) << 50});
         startDownload(server);
         QTRY_VERIFY(server.bytesSent() > 1e6);

@@ -1,17 +1,13 @@
 #include "acquisition/PM25Frame.h"
 #include "shell/Global_cfg.h"
-#include "simulator/FirmwareServer.h"
 #include "simulator/ParticleSensor.h"
 #include "testkit/Environment.h"
 #include "testkit/TableRows.h"
 
 #include <QDeadlineTimer>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSerialPort>
-#include <QSignalSpy>
 #include <csignal>
 #include <sys/prctl.h>
 
@@ -144,15 +140,6 @@ class TestZellSimulator : public QObject
         const char *name;
         QString variable, value;
     };
-    struct Download
-    {
-        const char *name;
-        FirmwareFault fault;
-        QNetworkReply::NetworkError error; ///< cancelled: does not end by itself
-        qint64 received;                   ///< bytes of body; cancelled at so many
-        qint64 total = firmwareSize;       ///< as the progress reports it
-    };
-
 private slots:
     void commandRunsOnTheDevice_data()
     {
@@ -284,18 +271,6 @@ private slots:
         QVERIFY2(QFile::exists("device/log/backlight"), "a root of one's own stays");
     }
 
-    void lineLosesWhatNobodyHears()
-    {
-        Board board(QDir::currentPath());
-        QVERIFY(QDir().mkpath("dev"));
-        SerialLine line(board.port.portName());
-        QVERIFY(line.plugIn());
-        QVERIFY(!line.send("lost"));
-        QVERIFY(board.port.open(QIODevice::ReadWrite));
-        QVERIFY(line.send("heard"));
-        QTRY_COMPARE(board.bytes, "heard");
-    }
-
     void unpluggedDeviceComesBack()
     {
         Board board(QDir::currentPath());
@@ -310,18 +285,9 @@ private slots:
         QVERIFY(PM2_5_dataHandle(&frame) != PM25_ERROR_DATA);
     }
 
-    void garbageIsSentAsItIs()
-    {
-        Board board(QDir::currentPath());
-        const auto sensor = quickSensor("garbage", board);
-        QVERIFY(board.port.open(QIODevice::ReadWrite));
-        QTRY_VERIFY(board.bytes.size() >= 60 + 60 + 60 + 120 + 59 + 61 + 60 + 20);
-    }
-
     void scenarioIsInTheEnvironment_data()
     {
-        addRows<Setting>({{"steady", "LD_PRELOAD", ""},
-                          {"slow-sensor", "ZELL_SLOW_MS", "200"},
+        addRows<Setting>({{"slow-sensor", "ZELL_SLOW_MS", "200"},
                           {"full-disk", "ZELL_CARD_FULL", "/faults/store"},
                           {"read-only", "ZELL_CARD_READ_ONLY", "/faults/store"},
                           {"locked-store", "LD_PRELOAD", ""}});
@@ -335,7 +301,6 @@ private slots:
         QCOMPARE(simulator.environmentValue(row.variable).remove(root), row.value);
         const QString library = simulator.environmentValue("LD_PRELOAD");
         QCOMPARE(QFile::exists(library), !row.value.isEmpty());
-        QCOMPARE(QFile::exists(root + "/dev/ttyUSB0"), true);
     }
 
     void deviceWithoutSensors()
@@ -361,36 +326,6 @@ private slots:
         QCOMPARE(held.readAll(), text); // who reads it keeps the old file to the end
         QVERIFY2(QFile::remove(path), "a lost file");
         QTRY_VERIFY(QFile::exists(path));
-    }
-
-    void downloadsFail_data()
-    {
-        using enum FirmwareFault;
-        addRows<Download>(
-            {{"refused", Refused, QNetworkReply::ContentAccessDenied, 0, 0},
-             {"cut off", CutOff, QNetworkReply::RemoteHostClosedError, firmwareSize / 2},
-             {"stalled", Stalled, QNetworkReply::OperationCanceledError, 16 * kibibyte},
-             {"endless", Endless, QNetworkReply::OperationCanceledError, 2 * firmwareSize, -1},
-             {"unknown length", UnknownLength, QNetworkReply::NoError, firmwareSize, -1},
-             {"zero report", ZeroReport, QNetworkReply::NoError, 0, 0}});
-    }
-
-    void downloadsFail()
-    {
-        QFETCH(Download, row);
-        FirmwareServer server({firmwareAnswer(row.fault)});
-        QVERIFY(server.listen());
-        QNetworkAccessManager client;
-        const std::unique_ptr<QNetworkReply> reply(client.get(QNetworkRequest(QUrl(server.url()))));
-        QSignalSpy progress(reply.get(), &QNetworkReply::downloadProgress);
-        const bool neverEnds = row.error == QNetworkReply::OperationCanceledError;
-        QTRY_VERIFY(neverEnds ? reply->bytesAvailable() >= row.received : reply->isFinished());
-        QCOMPARE(reply->isFinished(), !neverEnds);
-        if (!neverEnds)
-            QCOMPARE(reply->bytesAvailable(), row.received);
-        reply->abort();
-        QCOMPARE(reply->error(), row.error);
-        QCOMPARE(progress.value(0).value(1).toLongLong(), row.total);
     }
 };
 
