@@ -162,7 +162,7 @@ private:
                 (part->inherits("QAbstractButton") || part->inherits("OptionFrame")))
                 places.append(centre);
         }
-        return places[random.bounded(2) * random.bounded(int(places.size()))];
+        return random.bounded(2) == 0 ? places.first() : places[random.bounded(int(places.size()))];
     }
 
     ZellDatabase database;
