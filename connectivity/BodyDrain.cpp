@@ -38,7 +38,7 @@ void BodyDrain::drain()
     // A reply that was given up is closed before it says that it has finished.
     if (!reply->isOpen())
         return;
-    std::array<char, 16384> block;
+    std::array<char, 16384> block{};
     qint64 count = 0;
     while ((count = reply->read(block.data(), qint64(block.size()))) > 0) {
         received += count;

@@ -11,7 +11,7 @@ constexpr qint64 longestFile = 65536;
 
 struct Row
 {
-    const char *title;
+    const char *title = nullptr;
     QLatin1String translationFile;
 };
 

@@ -11,7 +11,7 @@ enum class Quantity { Pm = 1, Temperature, Humidity };
 /// What stands for a quantity on the screens.
 struct QuantityLook
 {
-    Quantity quantity;
+    Quantity quantity = Quantity::Pm;
     QStringView title;
     QStringView unit;
     QStringView logo;        ///< its sign, a picture; none where the title serves

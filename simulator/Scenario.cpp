@@ -35,7 +35,22 @@ QStringList oddNetworks()
             QStringLiteral("Studio"),    QStringLiteral("thirty-two characters in one row")};
 }
 
-QList<Scenario> scenarioTable()
+QList<Scenario> storeScenarios()
+{
+    return {
+        {.name = QStringLiteral("full-disk"),
+         .summary = QStringLiteral("no room for the store from second 30 to 150"),
+         .store = StoreFault::Full},
+        {.name = QStringLiteral("read-only"),
+         .summary = QStringLiteral("a store that cannot be written from second 30 to 150"),
+         .store = StoreFault::ReadOnly},
+        {.name = QStringLiteral("locked-store"),
+         .summary = QStringLiteral("a store locked by another process from second 30 to 150"),
+         .store = StoreFault::Locked},
+    };
+}
+
+QList<Scenario> deviceScenarios()
 {
     return {
         {.name = QStringLiteral("steady"), .summary = QStringLiteral("an ordinary day, slowly")},
@@ -69,22 +84,13 @@ QList<Scenario> scenarioTable()
         {.name = QStringLiteral("bad-firmware"),
          .summary = QStringLiteral("each download fails in the next way"),
          .firmware = everyFirmwareFault()},
-        {.name = QStringLiteral("full-disk"),
-         .summary = QStringLiteral("no room for the store from second 30 to 150"),
-         .store = StoreFault::Full},
-        {.name = QStringLiteral("read-only"),
-         .summary = QStringLiteral("a store that cannot be written from second 30 to 150"),
-         .store = StoreFault::ReadOnly},
-        {.name = QStringLiteral("locked-store"),
-         .summary = QStringLiteral("a store locked by another process from second 30 to 150"),
-         .store = StoreFault::Locked},
     };
 }
 } // namespace
 
 const QList<Scenario> &scenarios()
 {
-    static const QList<Scenario> table = scenarioTable();
+    static const QList<Scenario> table = deviceScenarios() + storeScenarios();
     return table;
 }
 
