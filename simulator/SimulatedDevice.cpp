@@ -91,23 +91,24 @@ bool SimulatedDevice::start(QString *problem)
 QMap<QString, QString> SimulatedDevice::variables() const
 {
     const Scenario &scenario = settings.scenario;
-    // Where the system has a proxy, the firmware server on loopback must not be asked for through
-    // it.
+    // Where the system has a proxy, it must not be asked for the firmware server on loopback.
     QString noProxy = qEnvironmentVariable("no_proxy");
     noProxy += (noProxy.isEmpty() ? QString() : QStringLiteral(",")) + QStringLiteral("127.0.0.1");
     QMap<QString, QString> values{{QStringLiteral("ZELL_DEVICE_ROOT"), root.path()},
                                   {QStringLiteral("ZELL_FIRMWARE_URL"), firmware.url()},
                                   {QStringLiteral("no_proxy"), noProxy}};
-    if (scenario.sensorDelay > 0) {
+    const bool isSlow = scenario.sensorDelay > 0;
+    if (isSlow) {
         values[QStringLiteral("ZELL_SLOW_FILE")] = root.climateFile();
         values[QStringLiteral("ZELL_SLOW_MS")] = QString::number(scenario.sensorDelay);
     }
-    if (const char *variable = cardVariable(scenario.store)) {
+    const char *const card = cardVariable(scenario.store);
+    if (card) {
         values[QStringLiteral("ZELL_CARD")] = QDir::currentPath();
-        values[QLatin1String(variable)] = root.storeFault();
+        values[QLatin1String(card)] = root.storeFault();
     }
     // The faults that the files themselves cannot have.
-    if (values.size() > 3)
+    if (isSlow || card)
         values[QStringLiteral("LD_PRELOAD")] = faultsLibrary();
     return values;
 }
