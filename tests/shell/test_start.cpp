@@ -91,6 +91,7 @@ private slots:
 
     void frozenProgramIsStartedAnew()
     {
+        QByteArray output;
         QProcess simulator;
         simulator.setProcessChannelMode(QProcess::MergedChannels);
         simulator.start(ZELL_SIMULATOR, {"--watchdog", "2", "--", ZELL_PROGRAM});
