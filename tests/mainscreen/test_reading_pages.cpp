@@ -13,13 +13,6 @@
 #include <cmath>
 
 namespace {
-struct Shade
-{
-    const char *name;
-    float value;
-    QString color;
-};
-
 /// A value and how the pages write it: digits, "-" for a dash and "_" for an empty place.
 struct Value
 {
@@ -119,54 +112,39 @@ private slots:
         QCOMPARE(whole->state(), QAbstractAnimation::Stopped);
     }
 
-    void concentrations_data()
-    {
-        addRows<Shade>({{"none", 0, "#64dd17"},
-                        {"most", 500, "#ba1650"},
-                        {"below none", -9e9F, "#64dd17"},
-                        {"above most", 9e9F, "#ba1650"},
-                        {"no number", NAN, "#64dd17"},
-                        {"second stop", 166.65F, "#ffeb3b"},
-                        {"third stop", 333.3F, "#f44336"},
-                        {"between stops", 83.325F, "#b1e429"}});
-    }
-
     void concentrations()
     {
-        QFETCH(Shade, row);
         const MessageLog log;
         PmColorGenerator scale;
         QCOMPARE(log.lines().first(), QString("parse red 100 green 221 blue 23"));
-        QCOMPARE(scale.colorOfPm(row.value).name(), row.color);
-    }
-
-    void blends_data()
-    {
-        addRows<Shade>({{"between equal stops", 0.6F, "#804020"},
-                        {"towards the end", 0.9F, "#33b2a5"},
-                        {"below the first stop, from black", 0.25F, "#03f3f"},
-                        {"twice the end", 2, "#01fffe"},
-                        {"as far before the beginning", -1, "#ffff01"},
-                        {"more than an int holds", 1e30F, "#ffff80"},
-                        {"without end", INFINITY, "#ffff80"}});
+        for (const float none : {0.F, -9e9F, NAN})
+            QCOMPARE(scale.colorOfPm(none).name(), "#64dd17");
+        QCOMPARE(scale.colorOfPm(83.325F).name(), "#b1e429");
+        QCOMPARE(scale.colorOfPm(166.65F).name(), "#ffeb3b");
+        QCOMPARE(scale.colorOfPm(333.3F).name(), "#f44336");
+        for (const float most : {500.F, 9e9F})
+            QCOMPARE(scale.colorOfPm(most).name(), "#ba1650");
     }
 
     void blends()
     {
-        QFETCH(Shade, row);
         GradualValueToColor scale;
+        scale.setColorAt(0.5F, 0x804020);
+        // A read inserts the ends in black, where there are none.
+        QCOMPARE(scale.colorAt(0.25F), "#00");
+        QCOMPARE(scale.colorAt(0.25F), "#402010");
+        scale = {};
         scale.setColorAt(0.5F, 0x804020);
         scale.setColorAt(0.75F, 0x804020);
         scale.setEndColor(0x00FFFF);
-        QCOMPARE(scale.colorAt(row.value), row.color);
-    }
-
-    void aReadInsertsTheEndsInBlack()
-    {
-        GradualValueToColor scale;
-        scale.setColorAt(0.5F, 0x804020);
-        QCOMPARE(scale.colorAt(0.25F), QString("#00"));
-        QCOMPARE(scale.colorAt(0.25F), QString("#402010"));
+        QCOMPARE(scale.colorAt(0.25F), "#03f3f");
+        QCOMPARE(scale.colorAt(0.6F), "#804020");
+        QCOMPARE(scale.colorAt(0.9F), "#33b2a5");
+        // Outside the ends the blend goes on as far as an int holds it.
+        QCOMPARE(scale.colorAt(2), "#01fffe");
+        QCOMPARE(scale.colorAt(-1), "#ffff01");
+        for (const float beyond : {1e30F, INFINITY})
+            QCOMPARE(scale.colorAt(beyond), "#ffff80");
     }
 };
 
