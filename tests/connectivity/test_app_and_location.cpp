@@ -73,7 +73,6 @@ private slots:
         auto *result = open<locationResult>();
         const auto *list = static_cast<QListWidget *>(on("listWidget"));
         const QScrollBar *bar = list->verticalScrollBar();
-        QCOMPARE(list->item(6)->text(), "北渡1，上海，中国");
         QCOMPARE(bar->maximum(), 7 * 80 - 320);
         // Shown again after the line was cleared, the list is longer and scrolls as before.
         result->delete_searchLocation();
@@ -83,10 +82,7 @@ private slots:
         drag(page.get(), {400, 400}, {400, 340}, 1);
         QTRY_COMPARE(bar->value(), 60);
         QCOMPARE(on("scrollBar_result")->property("value").toInt(), 60);
-        // Neither does the list mark a place, nor does anything else end in the filter.
         QVERIFY(list->selectedItems().isEmpty());
-        QEvent other(QEvent::MouseButtonDblClick);
-        QVERIFY(!result->eventFilter(list->viewport(), &other));
     }
 
 private:

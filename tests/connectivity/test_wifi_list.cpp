@@ -10,7 +10,6 @@
 #include <QAbstractItemModelTester>
 #include <QBuffer>
 #include <QPainter>
-#include <QStandardItemModel>
 #include <QTimer>
 #include <ctime>
 
@@ -29,14 +28,7 @@ struct Networks
 struct Scan
 {
     const char *name;
-    QByteArray text;
-    QStringList networks;
-};
-
-struct Scanner
-{
-    const char *name;
-    QByteArray script;
+    QByteArray text; ///< of the scan, or of the scanner
     QStringList networks;
 };
 
@@ -70,21 +62,15 @@ private slots:
         QCOMPARE(columnOf(model, Qt::DisplayRole), (QVariantList{"Home", "Studio", "Guest"}));
         QCOMPARE(columnOf(model, Qt::StatusTipRole), (QVariantList{3, 7, 0}));
         QCOMPARE(columnOf(model, Qt::CheckStateRole), (QVariantList{0, 2, 0}));
-        const QModelIndex last = model.index(2, 0);
-        QVERIFY(!last.data(Qt::ToolTipRole).isValid());
         QVERIFY(!model.data({}).isValid());
-        QCOMPARE(model.flags(last), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-        QCOMPARE(model.flags({}), model.flags(last));
-        QVERIFY(!model.setData(last, "x"));
+        QVERIFY(!model.setData(model.index(2, 0), "x"));
 
         WifiInfo *top = &networks.guest;
         model.insertWifi(0, top);
         QVERIFY(model.insertRows(2, 3));
         QVERIFY(model.removeRows(1, 2));
-        QCOMPARE(columnOf(model, Qt::DisplayRole),
-                 (QVariantList{"Guest", "", "", "Studio", "Guest"}));
         // Rows outside the list are harmless.
-        const std::tuple<int, int> outside[] = {{5, 2}, {-1, 2}, {0, -4}, {1, 99}};
+        const std::pair<int, int> outside[] = {{5, 2}, {-1, 2}, {0, -4}, {1, 99}};
         for (const auto &[first, count] : outside)
             QVERIFY(model.removeRows(first, count));
         QVERIFY(model.insertRows(99, 1));
@@ -111,10 +97,6 @@ private slots:
         QVERIFY2(std::clock() - work < CLOCKS_PER_SEC / 4, "asleep meanwhile");
         QCOMPARE(meanwhile, (QVariantList{0, 3, 0}));
         QCOMPARE(columnOf(model, Qt::CheckStateRole), (QVariantList{0, 1, 0}));
-        // A later choice takes over.
-        QTimer::singleShot(0, &model, [&] { model.toConnect(2); });
-        model.toConnect(0);
-        QCOMPARE(columnOf(model, Qt::CheckStateRole), (QVariantList{0, 0, 1}));
         // The network goes meanwhile.
         QTimer::singleShot(0, &model, [&] {
             model.setWifiList({});
@@ -137,6 +119,8 @@ private slots:
              scanLine(QByteArray("a\0\xff\x01", 4)),
              {QString("a") + QChar(0) + QChar(0xfffd) + QChar(1)}},
             {"endless line", scanLine(megabyte) + scanLine("B"), {QString(1024 - 28, 'n'), "B"}},
+            {"eight megabytes at most", scanLine(megabyte).repeated(20),
+             QStringList(8, QString(1024 - 28, 'n'))},
         });
     }
 
@@ -146,18 +130,10 @@ private slots:
         QCOMPARE(namesIn(row.text), row.networks);
     }
 
-    void longScanIsReadInPart()
-    {
-        MessageLog log;
-        QCOMPARE(namesIn(scanLine("A").repeated(100'000)).size(), 1000);
-        QCOMPARE(namesIn(scanLine(megabyte).repeated(20)).size(), 8);
-        QCOMPARE(log.count("scan result too long"), 2);
-    }
-
     void everyScannerLeavesAList_data()
     {
         const QByteArray line = scanLine("A").chopped(1);
-        addRows<Scanner>({
+        addRows<Scan>({
             {"never ends", "yes '" + line + "'", QStringList(1000, "A")},
             {"hangs", "trap '' TERM; echo '" + line + "'; sleep 30", {}},
             {"bytes that are no text",
@@ -168,8 +144,8 @@ private slots:
 
     void everyScannerLeavesAList()
     {
-        QFETCH(Scanner, row);
-        Environment::writeDeviceScript("/sbin/iwlist", row.script);
+        QFETCH(Scan, row);
+        Environment::writeDeviceScript("/sbin/iwlist", row.text);
         const QDeadlineTimer patience(2500);
         runScan(scanCommand("."), 1s);
         QVERIFY(!patience.hasExpired());
@@ -179,53 +155,36 @@ private slots:
         QCOMPARE(readNetworkNames(scan), row.networks);
     }
 
-    void commandHoldsAnyDirectory()
-    {
-        QCOMPARE(scanCommand("/var/lib/zell-1.0_a"),
-                 "iwlist wlan1 scanning|grep ESSID > "
-                 "/var/lib/zell-1.0_a/../resource/WiFi-SSID.txt");
-        QVERIFY(scanCommand("/a b").endsWith("> '/a b/../resource/WiFi-SSID.txt'"));
-    }
-
     void rowsLookAsTheyShould()
     {
         using enum ConnectState;
-        struct Row
-        {
-            QString name;
-            int level;
-            ConnectState state;
-            QStyle::State style;
-        };
-        const Row rows[] = {
-            {"Normal", 3, StateDisconnected, {}},
-            {"Selected", 2, StateDisconnected, QStyle::State_Selected},
-            {"Connecting", 3, StateConnecting, {}},
-            {"Connected", 4, StateConnected, {}},
-            {"Connected and selected", 1, StateConnectedNoNetwork, QStyle::State_Selected},
-            {"Level below one", -5, StateDisconnected, {}},
-            {"Level above four", 9, StateDisconnected, {}},
-            {QString(2000, 'n'), 3, StateConnected, {}},
-            {"שלום", 3, StateDisconnected, {}},
-        };
-        QImage picture(854, 80 * int(std::size(rows)), QImage::Format_RGB32);
+        QImage picture(854, 80 * 9, QImage::Format_RGB32);
         picture.fill(QColor(33, 33, 33));
         QPainter painter(&picture);
-        QStandardItemModel model;
         QStyleOptionViewItem option;
         option.rect = QRect(0, 0, 854, 80);
         option.font = QFont("Heiti SC");
         option.font.setPixelSize(24);
         option.fontMetrics = QFontMetrics(option.font);
-        for (const auto &[name, level, state, style] : rows) {
-            auto *item = new QStandardItem(name);
-            item->setData(level, Qt::StatusTipRole);
-            item->setData(int(state), Qt::CheckStateRole);
-            model.appendRow(item);
+        const auto paint = [&](const QString &name, int level, ConnectState state,
+                               QStyle::State style = {}) {
+            WifiInfo network(name, "MAC", level, EncryptType::None);
+            network.setConnectState(state);
+            WifiListModel model;
+            model.setWifiList({&network});
             option.state = style;
-            WifiListRowDelegate().paint(&painter, option, item->index());
+            WifiListRowDelegate().paint(&painter, option, model.index(0));
             option.rect.translate(0, 80);
-        }
+        };
+        paint("Normal", 3, StateDisconnected);
+        paint("Selected", 2, StateDisconnected, QStyle::State_Selected);
+        paint("Connecting", 3, StateConnecting);
+        paint("Connected", 4, StateConnected);
+        paint("Connected and selected", 1, StateConnectedNoNetwork, QStyle::State_Selected);
+        paint("Level below one", -5, StateDisconnected);
+        paint("Level above four", 9, StateDisconnected);
+        paint(QString(2000, 'n'), 3, StateConnected);
+        paint("שלום", 3, StateDisconnected);
         painter.end();
         const QString fault = pictureDifference(picture, ZELL_REFERENCE_DIR, "wifi-rows.png");
         QVERIFY2(fault.isEmpty(), qPrintable(fault));
