@@ -112,7 +112,9 @@ private slots:
             doubleTapAt(menu.get(), at);
         QCOMPARE(table->findItems("1", Qt::MatchExactly).size(), 1);
         QCOMPARE(table->item(2, 1)->text(), "1");
-        drag(menu.get(), {300, 400}, {300, 280}, 1);
+        // A move before would add what the list has glided meanwhile.
+        pressAt(menu.get(), {300, 400});
+        releaseAt(menu.get(), {300, 280});
         QTRY_COMPARE(table->verticalScrollBar()->value(), 120);
     }
 
