@@ -5,8 +5,8 @@
 #include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
 #include "testkit/FixedClock.h"
+#include "testkit/LiveFigures.h"
 #include "testkit/PseudoTerminal.h"
-#include "tests/soak/LiveFigures.h"
 #include "walk/Walk.h"
 
 #include <QDateTime>

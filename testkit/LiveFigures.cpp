@@ -1,4 +1,4 @@
-#include "tests/soak/LiveFigures.h"
+#include "testkit/LiveFigures.h"
 
 #include "pages/Page.h"
 #include "shell/Global_cfg.h"
