@@ -15,13 +15,6 @@
 #include <QTableWidget>
 #include <malloc.h>
 
-namespace {
-std::size_t bytesInUse()
-{
-    return mallinfo2().uordblks + mallinfo2().hblkhd;
-}
-} // namespace
-
 class TestTimePages : public QObject
 {
     Q_OBJECT
@@ -189,12 +182,13 @@ private slots:
 #ifdef __SANITIZE_ADDRESS__
         QSKIP("the sanitizer's allocator keeps no count");
 #endif
+        const auto bytesInUse = [] { return mallinfo2().uordblks + mallinfo2().hblkhd; };
         load("hour", 9);
         const QImage before = page->grab().toImage();
         constexpr auto picture = std::size_t{350} * 320 * 4;
-        const std::size_t shown = bytesInUse();
+        const auto bytesShown = bytesInUse();
         page->hide();
-        QVERIFY(shown > bytesInUse() + picture * 9 / 10);
+        QVERIFY(bytesShown > bytesInUse() + picture * 9 / 10);
         page->show();
         QCOMPARE(page->grab().toImage(), before);
     }

@@ -1,5 +1,8 @@
 #include "device/Backlight.h"
+#include "pages/Language.h"
+#include "settings/Restart.h"
 #include "settings/adjustLight.h"
+#include "settings/setLanguagePage.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/TableRows.h"
@@ -7,9 +10,15 @@
 
 #include <QDeadlineTimer>
 #include <QSlider>
+#include <QTimer>
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
-class TestBrightness : public QObject
+using namespace std::chrono_literals;
+
+/// The pages that change something on the device: brightness and language.
+class TestDevicePages : public QObject
 {
     Q_OBJECT
 
@@ -18,6 +27,21 @@ class TestBrightness : public QObject
         const char *name;
         QByteArray text, levels;
         int shown;
+    };
+    struct Choice
+    {
+        const char *name, *written;
+        int row;
+    };
+    struct Script
+    {
+        const char *name, *commands, *told;
+    };
+    struct Stored
+    {
+        const char *name;
+        QByteArray content;
+        QString translationFile;
     };
 
 private slots:
@@ -31,6 +55,10 @@ private slots:
         page = std::make_unique<adjustLight>();
         page->show();
         slider = page->findChild<QSlider *>("slider_light");
+        QFile::remove(device.restartRequest());
+        QFile::remove("language.txt");
+        languages = std::make_unique<setLanguagePage>();
+        languages->show();
     }
 
     void sensorSetsTheLevel_data()
@@ -111,7 +139,65 @@ private slots:
         QCOMPARE(levels(), "");
     }
 
-    // The last test: it leaves a script of its own.
+    void choiceIsWrittenByteForByte_data()
+    {
+        addRows<Choice>({{"simplified Chinese", "ZH_SIMPLE.qm", 0},
+                         {"traditional Chinese", "ZH_COMPLEX.qm", 1},
+                         {"English", "US.qm", 2},
+                         {"none", "", 3}});
+    }
+
+    void choiceIsWrittenByteForByte()
+    {
+        QFETCH(Choice, row);
+        choose(row.row);
+        leave();
+        QCOMPARE(Environment::contentOf("language.txt"), row.written);
+        QVERIFY(QFile::exists(device.restartRequest()));
+        QVERIFY(!languages->isVisible());
+    }
+
+    void fullDiskKeepsTheLanguageAndStopsNoRestart()
+    {
+        Language("US.qm").store();
+        choose(0);
+        rlimit room{};
+        getrlimit(RLIMIT_FSIZE, &room);
+        const rlimit none{0, room.rlim_max};
+        signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &none);
+        leave();
+        setrlimit(RLIMIT_FSIZE, &room);
+        QCOMPARE(Environment::contentOf("language.txt"), "US.qm");
+        QVERIFY(QFile::exists(device.restartRequest()));
+    }
+
+    void lastLineOfTheFileDecides_data()
+    {
+        addRows<Stored>({{"no file", {}, "ZH_COMPLEX.qm"},
+                         {"foreign line end", "US.qm\r\n", "US.qm"},
+                         {"two lines", "US.qm\nZH_SIMPLE.qm", "ZH_SIMPLE.qm"},
+                         {"empty last line", "US.qm\n\n", "ZH_COMPLEX.qm"},
+                         {"ten megabytes", QByteArray(10 << 20, 'x'), QString(65536, 'x')}});
+    }
+
+    void lastLineOfTheFileDecides()
+    {
+        QFETCH(Stored, row);
+        if (!row.content.isNull())
+            QVERIFY(simulator::replaceFile("language.txt", row.content));
+        QCOMPARE(Language::stored().resource(), ":/resource/translation/" + row.translationFile);
+    }
+
+    void pipeIsNoLanguageFile()
+    {
+        QCOMPARE(mkfifo("language.txt", 0600), 0);
+        QCOMPARE(Language::stored().translationFile(), "");
+        Language("US.qm").store();
+        QCOMPARE(Environment::contentOf("language.txt"), "US.qm");
+    }
+
+    // The last tests: they leave scripts of their own.
     void hangingToolIsLeftAlone()
     {
         MessageLog log;
@@ -126,6 +212,27 @@ private slots:
         QTRY_COMPARE(Environment::contentOf("levels"), "60\n");
     }
 
+    void failingScriptLeavesTheScreenAsItWas_data()
+    {
+        addRows<Script>(
+            {{"fails", "exit 1", "command failed"}, {"hangs", "/bin/sleep 1", "command given up"}});
+    }
+
+    void failingScriptLeavesTheScreenAsItWas()
+    {
+        QFETCH(Script, row);
+        Environment::writeDeviceScript("/bin/restartZellQt.sh", row.commands);
+        MessageLog log;
+        // Restarts from within an event loop, which the closing of the last window would end.
+        QTimer::singleShot(0, languages.get(), [] {
+            restartProgram(200ms);
+            QTimer::singleShot(0, [] { QTimer::singleShot(0, [] { qApp->exit(1); }); });
+        });
+        QCOMPARE(QCoreApplication::exec(), 1);
+        QVERIFY(languages->isVisible());
+        QCOMPARE(log.count(row.told), 1);
+    }
+
 private:
     QByteArray levels() const { return Environment::contentOf(device.backlightLog()); }
     void setLight(const QByteArray &text) const
@@ -135,10 +242,14 @@ private:
     // What the timer of the page does, also when the page has been emptied.
     static void poll(adjustLight &of) { of.findChild<BacklightControl *>()->followSensor(); }
 
+    void choose(int row) { tapAt(languages.get(), {427, 160 + 80 * row + 40}); }
+    void leave() { tap(languages->findChild<QWidget *>("button_back")); }
+
     const simulator::DeviceRoot device = Environment::device();
     std::unique_ptr<adjustLight> page;
     QSlider *slider = nullptr;
+    std::unique_ptr<setLanguagePage> languages;
 };
 
-ZELL_TEST_MAIN(TestBrightness)
-#include "test_brightness.moc"
+ZELL_TEST_MAIN(TestDevicePages)
+#include "test_device_pages.moc"
