@@ -129,16 +129,6 @@ private slots:
         QVERIFY(QFile::remove("ZellQt-1.1.pkg"));
     }
 
-    void retryHandsBackToAPageThatCanBeLeft()
-    {
-        startDownload("http://127.0.0.1:1/refused.pkg");
-        QVERIFY(waitFor("page_retryFirmware"));
-        tap(shown("button_retry"));
-        QVERIFY(shown("page_firmware"));
-        QVERIFY(shown("button_back"));
-        QVERIFY(!shown("button_update"));
-    }
-
     void progressIsShownAndLogged()
     {
         MessageLog log;
@@ -210,11 +200,7 @@ private:
     void startDownload(FirmwareServer &server)
     {
         QVERIFY(server.listen());
-        startDownload(server.url().toLatin1());
-    }
-    void startDownload(const QByteArray &address)
-    {
-        qputenv("ZELL_FIRMWARE_URL", address);
+        qputenv("ZELL_FIRMWARE_URL", server.url().toLatin1());
         page->check_versionUpdate();
         tap(shown("button_update"));
     }
