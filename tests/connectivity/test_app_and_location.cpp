@@ -21,10 +21,6 @@ private slots:
         auto *app = open<connectApp>();
         QSignalSpy left(app, &connectApp::signal_backDefaultPage);
         MessageLog log;
-        tap(on("button_appStore"));
-        tap(on("button_googlePlay"));
-        QVERIFY(log.contains("Download Zell App from Apple Store ..."));
-        QVERIFY(log.contains("Download Zell App from Google Play ..."));
         tap(on("button_connectApp"));
         for (int i = 0; i < 4; ++i) {
             const auto *label = page->findChild<QLabel *>(QString("label_num%1").arg(i + 1));

@@ -3,7 +3,6 @@
 #include "simulator/ScannerScript.h"
 #include "simulator/Scenario.h"
 #include "testkit/Environment.h"
-#include "testkit/TableRows.h"
 
 #include <QProcess>
 #include <QSqlDatabase>
@@ -16,12 +15,6 @@ using namespace std::chrono_literals;
 class TestSimulatedDevice : public QObject
 {
     Q_OBJECT
-
-    struct Scan
-    {
-        const char *name, *scenario;
-        bool ends = true;
-    };
 
 private slots:
     void curveTakesADay()
@@ -68,32 +61,27 @@ private slots:
         QVERIFY(brokenText(TextFault::Huge, good, random).size() > 1000000);
     }
 
-    void scanShowsTheNetworks_data()
-    {
-        addRows<Scan>({{"sound", "steady"},
-                       {"odd names", "garbage"},
-                       {"fails", "no-wifi"},
-                       {"hangs", "hung-scan", false}});
-    }
-
     // The device's program cuts the names out of the scan with grep and two fixed columns.
     void scanShowsTheNetworks()
     {
-        QFETCH(Scan, row);
-        const Scenario scenario = *findScenario(row.scenario);
-        QVERIFY(replaceFile("iwlist", scannerScript(scenario.networks, scenario.scanHangs), true));
-        QProcess shell;
-        shell.start("/bin/sh", {"-c", "./iwlist wlan1 scanning|grep --line-buffered ESSID"});
-        QStringList names;
-        while (names.size() < scenario.networks.size() && shell.waitForReadyRead()) {
-            while (shell.canReadLine())
-                names.append(QString(shell.readLine()).mid(27).chopped(2));
+        for (const char *name : {"steady", "garbage", "no-wifi", "hung-scan"}) {
+            const Scenario scenario = *findScenario(name);
+            const QByteArray script = scannerScript(scenario.networks, scenario.scanHangs);
+            QVERIFY(replaceFile("iwlist", script, true));
+            QProcess shell;
+            shell.start("/bin/sh", {"-c", "./iwlist wlan1 scanning|grep --line-buffered ESSID"});
+            QStringList names;
+            while (names.size() < scenario.networks.size() && shell.waitForReadyRead()) {
+                while (shell.canReadLine())
+                    names.append(QString(shell.readLine()).mid(27).chopped(2));
+            }
+            QCOMPARE(names, scenario.networks);
+            const bool hangs = qstrcmp(name, "hung-scan") == 0;
+            QCOMPARE(shell.waitForFinished(hangs ? 100 : 30000), !hangs);
+            QCOMPARE(shell.readAllStandardError().isEmpty(), !names.isEmpty());
+            shell.kill();
+            shell.waitForFinished();
         }
-        QCOMPARE(names, scenario.networks);
-        QCOMPARE(shell.waitForFinished(row.ends ? 30000 : 100), row.ends);
-        QCOMPARE(shell.readAllStandardError().isEmpty(), !names.isEmpty());
-        shell.kill();
-        shell.waitForFinished();
     }
 
     void storeTroubleComesAndGoes()
