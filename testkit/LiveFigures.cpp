@@ -28,18 +28,6 @@ QSet<QObject *> &living()
     return *all;
 }
 
-const bool isListening = [] {
-    qtHookData[addHook] = reinterpret_cast<quintptr>(+[](QObject *object) {
-        const QMutexLocker locker(&mutex);
-        living().insert(object);
-    });
-    qtHookData[removeHook] = reinterpret_cast<quintptr>(+[](QObject *object) {
-        const QMutexLocker locker(&mutex);
-        living().remove(object);
-    });
-    return true;
-}();
-
 // A page that was left stays, emptied, and so does the animation that slid a page in.
 bool isLeftOnPurpose(const QObject *object)
 {
@@ -58,6 +46,18 @@ int entriesOf(const char *folder)
     return int(QDir(QString::fromLatin1(folder)).entryList(QDir::AllEntries | QDir::System).size());
 }
 } // namespace
+
+void LiveFigures::listen()
+{
+    qtHookData[addHook] = reinterpret_cast<quintptr>(+[](QObject *object) {
+        const QMutexLocker locker(&mutex);
+        living().insert(object);
+    });
+    qtHookData[removeHook] = reinterpret_cast<quintptr>(+[](QObject *object) {
+        const QMutexLocker locker(&mutex);
+        living().remove(object);
+    });
+}
 
 LiveFigures LiveFigures::now()
 {

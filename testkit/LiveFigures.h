@@ -5,12 +5,15 @@
 /// What must level off in a program that runs for years, counted in this process.
 struct LiveFigures
 {
-    int objects = 0;     ///< QObjects of this thread, without those that are left on purpose
+    /// QObjects of this thread that were born after listen(), without those left on purpose.
+    int objects = 0;
     int timers = 0;      ///< running ones of this thread
     int descriptors = 0; ///< open files, sockets, pipes
     int threads = 0;
     int residentKiB = 0;
 
+    /// Begins to follow the birth and death of objects. Before the first of them that counts.
+    static void listen();
     static LiveFigures now();
 
     QString text() const;

@@ -32,6 +32,7 @@ class TestSoak : public QObject
 private slots:
     void initTestCase()
     {
+        LiveFigures::listen();
         stopCalendarAt(now);
         zelldatabase = &database;
         QVERIFY(server.listen());
