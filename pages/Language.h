@@ -5,7 +5,8 @@
 
 /// One language of the program, known by the file name of its translation ("US.qm").
 ///
-/// A further one takes a row in Language.cpp and its file below resource/translation/.
+/// A further one takes a row in Language.cpp and its file below resource/translation/, a copy of
+/// ZH_SIMPLE.ts to be translated; the two pictures of the language page are renewed.
 class Language
 {
 public:

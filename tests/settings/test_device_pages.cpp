@@ -144,7 +144,7 @@ private slots:
         addRows<Choice>({{"simplified Chinese", "ZH_SIMPLE.qm", 0},
                          {"traditional Chinese", "ZH_COMPLEX.qm", 1},
                          {"English", "US.qm", 2},
-                         {"none", "", 3}});
+                         {"none", "", int(Language::all().size())}});
     }
 
     void choiceIsWrittenByteForByte()
