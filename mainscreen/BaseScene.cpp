@@ -15,6 +15,10 @@
 #include <algorithm>
 
 namespace {
+// Smaller, so that four places fit into the tile, and down by what keeps them in its middle.
+const QString smallReading = QStringLiteral("font-size: 48px; padding-top: 7px;");
+constexpr int placesOfATile = 3;
+
 // The picture of the dashes stands lower than a line of text would.
 // Kept[fixed-levels]: no reading changes the text of a level.
 void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> companions)
@@ -22,6 +26,9 @@ void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> com
     if (reading != invalidReading) {
         label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
         label->setText(QStringLiteral("%1").arg(reading));
+        const QString style = label->text().size() > placesOfATile ? smallReading : QString();
+        if (label->styleSheet() != style)
+            label->setStyleSheet(style);
         return;
     }
     // Kept[unit-stays-hidden]: also when a valid reading follows.

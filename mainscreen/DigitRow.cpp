@@ -9,14 +9,25 @@ constexpr int dashesWidth = 225;
 constexpr int threePlacesWidth = 329;
 constexpr int fourPlacesWidth = 433;
 constexpr int temperatureWidth = 298;
-constexpr int negativeTemperatureWidth = 402;
 constexpr int humidityWidth = 273;
+// What one more place takes.
+constexpr int advance = 104;
 
 constexpr int firstTooLargePm = 10000;
 
 Glyph digit(long long value)
 {
     return value >= 0 && value <= 9 ? Glyph(value) : glyphBlank;
+}
+
+// A value with a unit in a row of @p width for two places; the third one is there from 100.
+DigitRow rowOf(long long value, int width)
+{
+    const bool hasHundreds = value >= 100;
+    return {.hundreds = hasHundreds ? digit(value / 100) : glyphHidden,
+            .tens = digit(value % 100 / 10),
+            .units = digit(value % 10),
+            .width = hasHundreds ? width + advance : width};
 }
 } // namespace
 
@@ -49,18 +60,19 @@ DigitRow temperatureRow(int value)
     if (value == invalidReading)
         return {.width = temperatureWidth, .hidesUnit = true};
     // Wider than int: the smallest int has no positive counterpart.
-    const long long magnitude = std::llabs(value);
-    return {.minus = value < 0 ? glyphDash : glyphHidden,
-            .tens = digit(magnitude / 10),
-            .units = digit(magnitude % 10),
-            .width = value < 0 ? negativeTemperatureWidth : temperatureWidth};
+    DigitRow row = rowOf(std::llabs(value), temperatureWidth);
+    if (value < 0) {
+        row.minus = glyphDash;
+        row.width += advance;
+    }
+    return row;
 }
 
 DigitRow humidityRow(int value)
 {
     if (value == invalidReading)
         return {.width = humidityWidth, .hidesUnit = true};
-    return {.tens = digit(value / 10), .units = digit(value % 10), .width = humidityWidth};
+    return rowOf(value, humidityWidth);
 }
 
 QString glyphPicture(Glyph glyph)

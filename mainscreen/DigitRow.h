@@ -33,8 +33,8 @@ struct DigitRow
 /// sensor delivers, are blank where their digit is below zero.
 std::optional<DigitRow> pmRow(int value);
 
-/// Writes a temperature in whole degrees: a minus sign where needed and two places, of which
-/// the tens stay blank from 100; two dashes without unit for invalidReading.
+/// Writes a temperature in whole degrees: a minus sign where needed and two places, three from 100,
+/// of which the hundreds stay blank from 1000; two dashes without unit for invalidReading.
 DigitRow temperatureRow(int value);
 
 /// Writes a relative humidity in per cent: places as in temperatureRow(), negative values as in

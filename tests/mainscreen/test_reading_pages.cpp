@@ -51,14 +51,15 @@ private slots:
     void placesOfAValue_data()
     {
         addRows<Value>({{"one digit", 5, "005", "05", "05"},
-                        {"three digits", 100, "100", "_0", "_0"},
-                        {"last of three digits", 999, "999", "_9", "_9"},
-                        {"four digits", 1000, "1000", "_0", "_0"},
-                        {"last credible one", 9998, "9998", "_8", "_8"},
+                        {"last of two digits", 99, "099", "99", "99"},
+                        {"three digits", 100, "100", "100", "100"},
+                        {"last of three digits", 999, "999", "999", "999"},
+                        {"four digits", 1000, "1000", "_00", "_00"},
+                        {"last credible one", 9998, "9998", "_98", "_98"},
                         {"missing", 9999, "--", "--", "--"},
                         {"below zero", -5, "00_", "-05", "0_"},
-                        {"two digits below zero", -23, "0__", "-23", "__"},
-                        {"the smallest int", INT_MIN, "___", "-_8", "__"}});
+                        {"three digits below zero", -123, "___", "-123", "__"},
+                        {"the smallest int", INT_MIN, "___", "-_48", "__"}});
     }
 
     void placesOfAValue()
@@ -70,7 +71,7 @@ private slots:
         QVERIFY(!pmRow(10000));
     }
 
-    void aMissingReadingTakesTheUnitAway()
+    void aMissingReadingTakesTheUnitAwayAndAHundredTakesRoom()
     {
         const TemperaturePage temperature;
         QCOMPARE(pictureIn(temperature, "label_tens"), pictureOf(glyphDash));
@@ -86,6 +87,9 @@ private slots:
                               "\"HumidityPage\" has no picture for a digit of its reading"}));
         QVERIFY(humidity.findChild<QLabel *>("label_symbol")->isHidden());
         QCOMPARE(pictureIn(humidity, "label_tens"), pictureOf(glyphBlank));
+        callSlot(&humidity, "update_currentData", Q_ARG(int, 100));
+        QCOMPARE(pictureIn(humidity, "label_hundreds"), pictureOf(1));
+        QCOMPARE(humidity.findChild<QWidget *>("frame_value")->width(), 273 + 104);
     }
 
     void barSweepsOutAndBackAndOutUntilItIsStopped()
