@@ -14,6 +14,11 @@ function(zell_configure_target target)
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
         -Wold-style-cast
         $<$<BOOL:${ZELL_WARNINGS_AS_ERRORS}>:-Werror>)
+    # On the board, files of any size and number open; notes on compilers of long ago are of no use.
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+        target_compile_definitions(${target} PRIVATE _FILE_OFFSET_BITS=64)
+        target_compile_options(${target} PRIVATE -Wno-psabi)
+    endif()
 endfunction()
 
 # zell_add_library(name SOURCES ... [PUBLIC ...] [PRIVATE ...])
