@@ -71,7 +71,7 @@ bool reacts(const QWidget *widget)
         return false;
     return widget->isEnabled() &&
            (qobject_cast<const QAbstractButton *>(widget) ||
-            qobject_cast<const QAbstractSlider *>(widget) || widget->inherits("OptionFrame"));
+            qobject_cast<const QAbstractSlider *>(widget) || widget->inherits("TouchFrame"));
 }
 
 QString nameOf(const QWidget *widget)

@@ -11,6 +11,7 @@
 #include "connectivity/tryConnectApp.h"
 #include "connectivity/updateFirmware.h"
 #include "connectivity/wifiConnectResult.h"
+#include "pages/CancelledTouch.h"
 #include "pages/Page.h"
 #include "pages/PageHolder.h"
 #include "settings/DateTimePage.h"
@@ -63,6 +64,16 @@ auto spiesOn(const Page *page)
     return spies;
 }
 
+int differentPixels(const QImage &one, const QImage &other)
+{
+    int different = 0;
+    for (int i = 0; i < one.width() * one.height(); ++i) {
+        const QPoint at(i % one.width(), i / one.width());
+        different += int(one.pixel(at) != other.pixel(at));
+    }
+    return different;
+}
+
 QList<QWidget *> widgetsIn(const Page *page)
 {
     QList<QWidget *> widgets = page->findChildren<QWidget *>();
@@ -75,6 +86,11 @@ class TestSettingsPages : public QObject
 {
     Q_OBJECT
 
+    struct Pressed
+    {
+        const char *name, *page, *lit, *tapped;
+        QPoint at;
+    };
     struct Tap
     {
         const char *name;
@@ -85,6 +101,7 @@ class TestSettingsPages : public QObject
 private slots:
     void initTestCase()
     {
+        new CancelledTouch(this);
         // The language page is to lead back to the menu, not to a restart.
         QVERIFY(QFile::remove(Environment::deviceRoot() + "/bin/restartZellQt.sh"));
     }
@@ -205,6 +222,71 @@ private slots:
         QTRY_VERIFY(!holdTimer->isActive());
         releaseAt(page, at);
         QCOMPARE(taps.size(), 2);
+    }
+
+    void pressShowsAtOnceAndGoesWhereItCounts_data()
+    {
+        addRows<Pressed>(
+            {{"tile", "back_default_page", "option_setTime", "option_setTime", {99, 48}},
+             {"arrow", "back_default_page", "button_back", "button_back", {48, 40}},
+             {"row by its value",
+              "jump_setTime_page",
+              "frame_TimeZone",
+              "button_timeZone",
+              {660, 44}},
+             {"row by its name",
+              "jump_setNightPatternSlt",
+              "frame_startTime",
+              "button_startTime",
+              {99, 9}},
+             {"switch by its name",
+              "jump_setTime_page",
+              "frame_24Hours",
+              "checkBox_24Hours",
+              {99, 9}},
+             {"switch by its words",
+              "jump_adjustLight_page",
+              "frame_auto",
+              "checkBox_adjustLight",
+              {607, 66}}});
+    }
+
+    void pressShowsAtOnceAndGoesWhereItCounts()
+    {
+        QFETCH(Pressed, row);
+        callSlot(page, row.page);
+        QWidget *lit = visibleChild(page, row.lit);
+        QSignalSpy taps(visibleChild(lit->parentWidget(), row.tapped), SIGNAL(clicked()));
+        const QPoint at = lit->mapTo(page, row.at);
+        const auto onScreen = [this] {
+            return window->screen()->grabWindow(window->winId()).toImage();
+        };
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        window->repaint();
+        const QImage dark = onScreen();
+        const auto isLit = [&] { return differentPixels(onScreen(), dark) >= 500; };
+        // Within the press, as what it leads to may hold up the screen.
+        QMouseEvent press(QEvent::MouseButtonPress, row.at, lit->mapToGlobal(row.at),
+                          Qt::LeftButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(lit, &press);
+        QVERIFY(isLit());
+        cancelAt(page, at);
+        pressAt(page, at);
+        moveTo(page, at + QPoint(100, 0));
+        QTRY_VERIFY(!isLit());
+        releaseAt(page, at + QPoint(100, 0));
+        pressAt(page, at);
+        cancelAt(page, at);
+        QTRY_VERIFY(!isLit());
+        if (auto *frame = qobject_cast<TouchFrame *>(lit)) {
+            pressAt(page, at);
+            frame->change_status();
+            QTRY_VERIFY(!isLit());
+            releaseAt(page, at);
+        }
+        QCOMPARE(taps.size(), 0);
+        tapAt(page, at);
+        QCOMPARE(taps.size(), 1);
     }
 
     void emptiedPageDoesNothing_data()
