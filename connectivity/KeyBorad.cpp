@@ -9,9 +9,11 @@
 #include <QLineEdit>
 
 namespace {
+// By way of a picture, which Qt reads once and knows again: each icon made from a file would put
+// pictures of its own into its cache.
 QIcon keyIcon(const char *name)
 {
-    return QIcon(
+    return QPixmap(
         QStringLiteral(":/resource/images/optionPage/keyboard/%1.png").arg(QLatin1String(name)));
 }
 } // namespace

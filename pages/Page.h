@@ -6,9 +6,9 @@
 /// left by signal_backDefaultPage(), on the opaque ground of all pages.
 ///
 /// Its life: whole from its construction until its holder opens the next page, thus also after it
-/// has been left; emptied from then on. An emptied page stays as an empty frame until the holder
-/// goes, because the style sheet keeps some 10 KB for every widget it has ever met. Its slots do
-/// nothing any more. What must go on is done by objects that know nothing of the form. GUI thread.
+/// has been left; emptied from then on. An emptied page stays as a bare frame of some 4 KB until
+/// the holder goes. Its slots do nothing any more. What must go on is done by objects that know
+/// nothing of the form. GUI thread.
 class Page : public QWidget
 {
     Q_OBJECT
