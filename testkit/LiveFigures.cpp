@@ -70,6 +70,8 @@ LiveFigures LiveFigures::now()
             figures.timers +=
                 int(QAbstractEventDispatcher::instance()->registeredTimers(object).size());
             figures.objects += isLeftOnPurpose(object) ? 0 : 1;
+            const auto *page = qobject_cast<const Page *>(object);
+            figures.emptiedPages += page && page->isEmptied() ? 1 : 0;
         }
     }
     figures.descriptors = entriesOf("/proc/self/fd");
@@ -83,12 +85,14 @@ LiveFigures LiveFigures::now()
 
 QString LiveFigures::text() const
 {
-    return QStringLiteral("%1 objects, %2 timers, %3 descriptors, %4 threads, %5 KiB")
+    return QStringLiteral("%1 objects, %2 timers, %3 descriptors, %4 threads, %5 KiB, "
+                          "%6 emptied pages")
         .arg(objects)
         .arg(timers)
         .arg(descriptors)
         .arg(threads)
-        .arg(residentKiB);
+        .arg(residentKiB)
+        .arg(emptiedPages);
 }
 
 bool LiveFigures::isAbove(const LiveFigures &level) const

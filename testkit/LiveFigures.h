@@ -10,6 +10,7 @@ struct LiveFigures
     int timers = 0;      ///< running ones of this thread
     int descriptors = 0; ///< open files, sockets, pipes
     int threads = 0;
+    int emptiedPages = 0; ///< frames of pages that were left, which stay on purpose
     int residentKiB = 0;
 
     /// Begins to follow the birth and death of objects. Before the first of them that counts.

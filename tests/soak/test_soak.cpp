@@ -70,8 +70,11 @@ private slots:
                 level = figures;
             QVERIFY2(!figures.isAbove(level), qPrintable(level.text()));
             QVERIFY(rowsWithinRetention() > 0);
+            // An emptied page stays as a frame, with all that its visit leaves 4.5 KiB; a whole one
+            // takes many times as much. 1 MiB is for the holes in the heap.
+            const int further = figures.emptiedPages - level.emptiedPages;
             if (isWhole)
-                QVERIFY(figures.residentKiB <= level.residentKiB + 4096);
+                QVERIFY(figures.residentKiB <= level.residentKiB + 1024 + further * 8);
         }
         if (isWhole)
             QVERIFY(longest <= 50ms);
