@@ -119,15 +119,17 @@ void SetWifiPage::onListWifiItemClicked(const QItemSelection &selected, const QI
         qDebug() << "still connecting: the tap is ignored";
         return;
     }
+    const int row = selected.first().top();
+    chosen = model->index(row).data().toString();
     const QPointer<SetWifiPage> self(this);
     ++choicesUnderWay;
-    model->toConnect(selected.first().top());
+    model->toConnect(row);
     if (!self)
         return;
     --choicesUnderWay;
     // Within the second the menu may have opened the next page and emptied this one.
     if (ui)
-        ui->page_passwordKeyboard->open<passwordKeyboard>();
+        ui->page_passwordKeyboard->open<passwordKeyboard>()->setNetwork(chosen);
 }
 
 // Kept[placeholder-network]: the page starts no timer by itself.

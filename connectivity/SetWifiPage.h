@@ -18,8 +18,9 @@ class SetWifiPage;
 /// The networks in reach, scanned once while the page is built: that blocks for the whole scan.
 ///
 /// A tap on a network shows it as connecting for a second, then as connected, and opens the page
-/// for its password. Each tap within that second nests one more choice, up to four. The connection
-/// is only shown, not made. Without a scan result the page says that there is no Wi-Fi. GUI thread.
+/// for its password. Each tap within that second nests one more choice, up to four, and the last of
+/// them is the one whose password is asked for. The connection is only shown, not made. Without a
+/// scan result the page says that there is no Wi-Fi. GUI thread.
 class SetWifiPage : public FormPage<Ui::SetWifiPage>
 {
     Q_OBJECT
@@ -48,6 +49,7 @@ private:
     WifiListModel *model;
     std::vector<std::unique_ptr<WifiInfo>> networks;
     QList<WifiInfo *> wifiList;
+    QString chosen;
     int timerId = 0;
     int choicesUnderWay = 0;
 };

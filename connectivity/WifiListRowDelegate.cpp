@@ -1,5 +1,6 @@
 #include "connectivity/WifiListRowDelegate.h"
 
+#include "connectivity/NetworkName.h"
 #include "connectivity/WifiInfo.h"
 #include "pages/Look.h"
 
@@ -15,8 +16,6 @@ constexpr int nameBelowSignal = 5;
 constexpr int progressFromRight = 80;
 constexpr int hairlineFromRight = 71;
 constexpr int textToProgress = 13;
-// More than any row can show: measuring the width of a longer text would only take time.
-constexpr int longestName = 256;
 
 QPixmap picture(const QString &name)
 {
@@ -92,9 +91,9 @@ void WifiListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     QRect line(signalArea.right() + 1 + signalToName, row.top(), row.width(),
                signalArea.bottom() + 1 + nameBelowSignal - row.top());
     const int nameEnd = paintProgress(painter, row, line, connected, connecting);
-    const QString name = option.fontMetrics.elidedText(index.data().toString().left(longestName),
-                                                       Qt::ElideRight, nameEnd - line.left());
-    painter->drawText(line, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine, name);
+    painter->drawText(
+        line, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine,
+        elidedName(index.data().toString(), option.fontMetrics, nameEnd - line.left()));
     painter->restore();
 }
 

@@ -1,6 +1,7 @@
 #include "connectivity/passwordKeyboard.h"
 
 #include "connectivity/KeyBorad.h"
+#include "connectivity/NetworkName.h"
 #include "connectivity/wifiConnectResult.h"
 #include "ui_passwordKeyboard.h"
 
@@ -18,6 +19,12 @@ passwordKeyboard::passwordKeyboard(QWidget *parent)
     connect(keyboard, &KeyBorad::signal_commit, this, &passwordKeyboard::on_entered_password);
 }
 
+void passwordKeyboard::setNetwork(const QString &name)
+{
+    if (ui)
+        showName(name, ui->label_title);
+}
+
 void passwordKeyboard::on_entered_password()
 {
     if (!ui)
@@ -30,5 +37,5 @@ void passwordKeyboard::on_entered_password()
 void passwordKeyboard::jump_wifiConnectResult_page()
 {
     if (ui)
-        ui->page_wifiConnectResult->open<wifiConnectResult>();
+        ui->page_wifiConnectResult->open<wifiConnectResult>()->setNetwork(ui->label_title->text());
 }

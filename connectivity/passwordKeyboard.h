@@ -17,6 +17,9 @@ class passwordKeyboard : public FormPage<Ui::passwordKeyboard>
 public:
     explicit passwordKeyboard(QWidget *parent);
 
+    /// Titles this page, and the result behind it, with @p name. Nothing on an emptied page.
+    void setNetwork(const QString &name);
+
 signals:
     /// Never emitted; meant to hand the password on once there is a check.
     void signal_commit(const QString &strValue);

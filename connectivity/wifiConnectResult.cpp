@@ -1,5 +1,6 @@
 #include "connectivity/wifiConnectResult.h"
 
+#include "connectivity/NetworkName.h"
 #include "ui_wifiConnectResult.h"
 
 #include <QDebug>
@@ -15,6 +16,12 @@ wifiConnectResult::wifiConnectResult(QWidget *parent)
             &wifiConnectResult::forget_this_wifi);
     connect(ui->button_retryFail, &QPushButton::clicked, this,
             &wifiConnectResult::retry_wifi_connect);
+}
+
+void wifiConnectResult::setNetwork(const QString &name)
+{
+    if (ui)
+        showName(name, ui->label_title);
 }
 
 // Kept[always-connected]: failure is never shown.

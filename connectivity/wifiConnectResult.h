@@ -17,6 +17,9 @@ class wifiConnectResult : public FormPage<Ui::wifiConnectResult>
 public:
     explicit wifiConnectResult(QWidget *parent);
 
+    /// Titles the page with @p name, which stays over a retry. Nothing on an emptied page.
+    void setNetwork(const QString &name);
+
     /// Does nothing: there is no page to go back to yet.
     void on_button_back_clicked() override;
 

@@ -8,6 +8,7 @@
 #include "testkit/Touch.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
@@ -121,20 +122,27 @@ private slots:
 
     void tapOpensThePasswordPage()
     {
-        scanFinds({"Home", "Studio"});
+        scanFinds({"Home", "<h1>" + QString(200, 'x')});
         Screen screen;
         screen.tapRow(1);
         QCOMPARE(screen.states(), (QVariantList{0, 1}));
         QCOMPARE(screen.current(), "page_passwordKeyboard");
+        // What comes from the air is plain text, and cut where it does not fit.
+        auto *passwords = screen.passwordPages().first();
+        const QLabel *title = passwords->findChild<QLabel *>("label_title");
+        QCOMPARE(title->textFormat(), Qt::PlainText);
+        QVERIFY(title->text().startsWith("<h1>xxx"));
+        QVERIFY(title->text().endsWith("…"));
         MessageLog log;
         tap(visibleChild(screen.page, "button_enter"));
         QVERIFY(log.contains("check password backstage..."));
-        auto *passwords = screen.passwordPages().first();
         passwords->jump_wifiConnectResult_page();
         for (const char *name : {"button_forgetSuccess", "button_forgetFail", "button_retryFail"})
             passwords->findChild<QPushButton *>(name)->click();
         QCOMPARE(log.count("forget this wifi..."), 2);
         QCOMPARE(log.count("retry wifi connect..."), 1);
+        for (const QLabel *shown : passwords->findChildren<QLabel *>("label_title"))
+            QCOMPARE(shown->text(), title->text());
         QCOMPARE(screen.current(), "page_defalut");
     }
 
@@ -153,6 +161,7 @@ private slots:
         QCOMPARE(log.count("the tap is ignored"), 1);
         QCOMPARE(screen.states(), (QVariantList{0, 1, 0}));
         QCOMPARE(screen.passwordPages().size(), 4);
+        QCOMPARE(visibleChild(screen.page, "label_title")->property("text").toString(), "Studio");
         screen.tapBack();
         QCOMPARE(screen.current(), "page_defalut");
     }
