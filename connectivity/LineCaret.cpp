@@ -3,8 +3,10 @@
 #include "pages/Look.h"
 
 #include <QEvent>
+#include <QFontMetricsF>
 #include <QLineEdit>
 #include <QPainter>
+#include <QtMath>
 #include <algorithm>
 
 namespace {
@@ -14,9 +16,11 @@ constexpr int caretHeight = 34;
 constexpr int textDrop = 2;
 constexpr int dotPitch = 19;
 constexpr int dotSize = 10;
-// From the left edge of a dot's cell to the dot, and from the end of the last cell to the caret.
-constexpr int dotLeft = 1;
-constexpr int caretGap = 2;
+// From the left edge of the line to the first dot, and from the last glyph to the caret.
+constexpr int dotsLeft = 2;
+constexpr int caretGap = 5;
+// What a line leaves free at its left by itself.
+constexpr int ownMargin = 2;
 
 // A picture, as a circle is costly to fill and every letter typed repaints the whole line.
 QPixmap dotPicture()
@@ -30,6 +34,13 @@ QPixmap dotPicture()
     painter.drawEllipse(picture.rect());
     return picture;
 }
+// Letters begin where dots do, which their own left bearing brings about; what stands for a text
+// keeps off the caret before it.
+void leaveRoom(QLineEdit *line)
+{
+    const int left = line->text().isEmpty() ? caretWidth + caretGap : 0;
+    line->setTextMargins(left - ownMargin, 0, caretWidth + caretGap, 0);
+}
 } // namespace
 
 LineCaret::LineCaret(QLineEdit *line)
@@ -42,6 +53,8 @@ LineCaret::LineCaret(QLineEdit *line)
     line->setFocusPolicy(Qt::NoFocus);
     line->clearFocus();
     line->installEventFilter(this);
+    leaveRoom(line);
+    connect(line, &QLineEdit::textChanged, this, [line] { leaveRoom(line); });
     setGeometry(line->rect());
     show();
 }
@@ -51,7 +64,23 @@ bool LineCaret::eventFilter(QObject * /*watched*/, QEvent *event)
     if (event->type() == QEvent::Resize)
         setGeometry(edit->rect());
     // The mask of the font, which nobody sees, is costly to draw.
-    return event->type() == QEvent::Paint && edit->echoMode() == QLineEdit::Password;
+    return event->type() == QEvent::Paint && isMasked();
+}
+
+bool LineCaret::isMasked() const
+{
+    return edit->echoMode() == QLineEdit::Password && !edit->text().isEmpty();
+}
+
+int LineCaret::textEnd() const
+{
+    const QString text = edit->text();
+    if (text.isEmpty())
+        return -caretGap;
+    // A blank has nothing to keep off from but its own width.
+    const QChar last = text.back();
+    const int next = edit->inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+    return last.isSpace() ? next : qCeil(next - QFontMetricsF(edit->font()).rightBearing(last));
 }
 
 void LineCaret::paintEvent(QPaintEvent *)
@@ -59,18 +88,12 @@ void LineCaret::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const int middleLine = height() / 2 + textDrop;
     const int caretTop = middleLine - caretHeight / 2;
-    if (edit->echoMode() != QLineEdit::Password) {
-        const QRect cursor = edit->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-        const int left = std::min(cursor.center().x(), width() - caretWidth);
-        painter.fillRect(left, caretTop, caretWidth, caretHeight, Look::accent);
-        return;
-    }
-
-    // A long password runs out at the left, so that its end stays in sight.
-    const int dots = int(edit->text().size());
-    const int caretLeft = std::min(dots * dotPitch + caretGap, width() - caretWidth);
+    const int dots = isMasked() ? int(edit->text().size()) : 0;
+    const int end = dots > 0 ? dotsLeft + (dots - 1) * dotPitch + dotSize : textEnd();
+    const int caretLeft = std::min(end + caretGap, width() - caretWidth);
     painter.fillRect(caretLeft, caretTop, caretWidth, caretHeight, Look::accent);
-    int left = caretLeft - caretGap - dotPitch + dotLeft;
+    // A long password runs out at the left, so that its end stays in sight.
+    int left = caretLeft - caretGap - dotSize;
     for (int i = 0; i < dots && left > -dotSize; ++i, left -= dotPitch)
         painter.drawPixmap(left, middleLine - dotSize / 2, dot);
 }

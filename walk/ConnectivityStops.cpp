@@ -30,6 +30,11 @@ void loseNetworks(Walk &walk)
     walk.setNetworks({});
 }
 
+void findLongName(Walk &walk)
+{
+    walk.setNetworks({QStringLiteral("<b>The network of the house at the end of the street</b>")});
+}
+
 void awaitProgress(Walk &walk)
 {
     walk.waitFor(QStringLiteral("progress"),
@@ -69,6 +74,9 @@ std::vector<Stop> connectivityStops()
         {"wifi-password-symbol", {tapping("button_symbol_2")}},
         {"wifi-result-success", {calling("passwordKeyboard", "jump_wifiConnectResult_page")}},
         {"wifi-result-fail", {showFailure}},
+        {"wifi-password-long-name",
+         {&Walk::restartAtMenu, findLongName, opening("option_setWifi"), tappingAt(firstNetwork),
+          seeing("button_enter")}},
         {"wifi-none", {&Walk::restartAtMenu, loseNetworks, opening("option_setWifi")}},
 
         {"app-page", {back, opening("option_connectApp")}},

@@ -367,6 +367,10 @@
 <context>
     <name>locationResult</name>
     <message>
+        <source>城市</source>
+        <translation>城市</translation>
+    </message>
+    <message>
         <source>手动指定所在地</source>
         <translation>手动指定所在地</translation>
     </message>
@@ -443,6 +447,13 @@
     </message>
 </context>
 <context>
+    <name>passwordKeyboard</name>
+    <message>
+        <source>密码</source>
+        <translation>密码</translation>
+    </message>
+</context>
+<context>
     <name>retryFirmware</name>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;系统软件版本&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
@@ -459,6 +470,10 @@
 </context>
 <context>
     <name>searchLocation</name>
+    <message>
+        <source>城市</source>
+        <translation>城市</translation>
+    </message>
     <message>
         <source>手动指定所在地</source>
         <translation>手动指定所在地</translation>
