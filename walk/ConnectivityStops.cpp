@@ -35,6 +35,15 @@ void findLongName(Walk &walk)
     walk.setNetworks({QStringLiteral("<b>The network of the house at the end of the street</b>")});
 }
 
+Step reporting(qint64 received, qint64 total)
+{
+    return [received, total](Walk &walk) {
+        QMetaObject::invokeMethod(walk.find(QStringLiteral("updateFirmware")),
+                                  "on_downloadProgress", Q_ARG(qint64, received),
+                                  Q_ARG(qint64, total));
+    };
+}
+
 void awaitProgress(Walk &walk)
 {
     walk.waitFor(QStringLiteral("progress"),
@@ -95,6 +104,8 @@ std::vector<Stop> connectivityStops()
         {"firmware-idle", {back, opening("option_updateFirmware")}},
         {"firmware-found", {tapping("button_checkUpdate")}},
         {"firmware-downloading", {tapping("button_update"), awaitProgress}},
+        {"firmware-downloading-begun", {reporting(1, 1000)}},
+        {"firmware-downloading-done", {reporting(1, 1)}},
         {"firmware-retry", {cutOff, seeing("button_retry")}},
         {"firmware-after-retry", {tapping("button_retry")}},
         {"firmware-install",

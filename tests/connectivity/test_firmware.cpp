@@ -1,3 +1,4 @@
+#include "connectivity/CapsuleBar.h"
 #include "connectivity/FirmwareDownload.h"
 #include "connectivity/updateFirmware.h"
 #include "simulator/FirmwareServer.h"
@@ -72,6 +73,24 @@ private slots:
         QCOMPARE(downloadPercent(2, 3), 66);
         QCOMPARE(downloadPercent(qint64(1) << 40, qint64(1) << 41), 50);
         QCOMPARE(downloadPercent(5, 0), 0);
+    }
+
+    void barGrowsFromACircle()
+    {
+        auto *bar = page->findChild<CapsuleBar *>("progressBar_update");
+        bar->show();
+        shown("button_checkUpdate")->hide();
+        for (const auto &[percent, length] :
+             QMap<int, int>{{0, 0}, {1, 20}, {50, 280}, {99, 554}, {100, 560}}.asKeyValueRange()) {
+            bar->setValue(percent);
+            const QImage picture = page->grab(bar->geometry()).toImage();
+            const auto isLit = [&](int x, int y) { return qGray(picture.pixel(x, y)) > 128; };
+            int end = 0;
+            while (end < 560 && isLit(end, 10))
+                ++end;
+            QCOMPARE(end, length);
+            QVERIFY(!isLit(std::max(end - 1, 0), 0));
+        }
     }
 
     void everyServerEndsOnAPageWithAWayBack_data()
