@@ -8,8 +8,27 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <zbar.h>
+
+namespace {
+// What a phone reads in @p picture, whose width is a multiple of four.
+QStringList codesIn(QImage picture)
+{
+    picture.convertTo(QImage::Format_Grayscale8);
+    zbar::Image seen(unsigned(picture.width()), unsigned(picture.height()), "Y800",
+                     picture.constBits(), std::size_t(picture.sizeInBytes()));
+    zbar::ImageScanner scanner;
+    scanner.scan(seen);
+    QStringList texts;
+    for (auto code = seen.symbol_begin(); code != seen.symbol_end(); ++code)
+        texts.append(QString::fromStdString(code->get_data()));
+    texts.sort();
+    return texts;
+}
+} // namespace
 
 class TestAppAndLocation : public QObject
 {
@@ -36,6 +55,32 @@ private slots:
         QCOMPARE(left.count(), 3);
         open<tryConnectApp>()->check_connect_result();
         QVERIFY(on("label_background"));
+    }
+
+    // Six code words of each code are damaged, of the eight that can be mended: no more than two
+    // can have been wrong before.
+    void codesAreReadFromThePage()
+    {
+        open<connectApp>();
+        const QString address =
+            "HTTP://" + on("label_left3")->property("text").toString().toUpper();
+        const QStringList addresses{address + "/ANDROID", address + "/IOS"};
+        QImage picture = page->grab({0, 0, 852, 480}).toImage();
+        QCOMPARE(codesIn(picture), addresses);
+        QPainter painter(&picture);
+        painter.setCompositionMode(QPainter::CompositionMode_Difference);
+        for (const char *name : {"button_appStore", "button_googlePlay"}) {
+            QRect code(0, 0, 132, 132);
+            code.moveCenter(on(name)->mapTo(page.get(), on(name)->rect().center()));
+            const QImage modules = picture.copy(code).scaled(33, 33);
+            QCOMPARE(modules.scaled(132, 132), picture.copy(code));
+            const QPoint last = code.bottomRight() - QPoint(15, 15);
+            painter.fillRect(QRect(last, last - QPoint(7, 63)).normalized(), Qt::white);
+            painter.fillRect(QRect(last - QPoint(8, 32), last - QPoint(15, 63)).normalized(),
+                             Qt::white);
+        }
+        painter.end();
+        QCOMPARE(codesIn(picture), addresses);
     }
 
     void typedPlaceIsClearedAndDropped()
