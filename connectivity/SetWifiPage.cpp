@@ -1,5 +1,6 @@
 #include "connectivity/SetWifiPage.h"
 
+#include "connectivity/ScrollThumb.h"
 #include "connectivity/WifiListModel.h"
 #include "connectivity/WifiListRowDelegate.h"
 #include "connectivity/WifiScan.h"
@@ -30,6 +31,7 @@ SetWifiPage::SetWifiPage(QWidget *parent)
              ui->label_noWifi, ui->icon_noWifi, ui->info_noWifi, ui->listView, ui->scrollArea})
         part->hide();
     ui->listView->setModel(model);
+    showScroll(ui->listView, ui->scrollBar_networks);
     connect(ui->page_passwordKeyboard, &PageHolder::signal_pageLeft, this,
             &SetWifiPage::back_default_page);
 

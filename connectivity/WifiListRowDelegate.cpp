@@ -73,7 +73,7 @@ void WifiListRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     if (connecting || (selected && !connected)) {
         qDebug() << "selected";
         painter->drawPixmap(row, ground);
-    } else if (!connected) {
+    } else {
         const QRect hairline(row.left() + lockLeft, row.bottom(),
                              row.width() - lockLeft - hairlineFromRight, 1);
         painter->fillRect(hairline, QColor(255, 255, 255, 25));

@@ -1,23 +1,12 @@
 #include "connectivity/locationResult.h"
 
 #include "connectivity/LineCaret.h"
+#include "connectivity/ScrollThumb.h"
 #include "pages/DragScroll.h"
 #include "ui_locationResult.h"
 
-#include <QScrollBar>
-
 namespace {
 constexpr int textPixels = 24;
-
-// Shows where the list stands; it is too narrow for a finger.
-void mirror(QScrollBar *source, QScrollBar *thumb)
-{
-    QObject::connect(source, &QScrollBar::rangeChanged, thumb, [source, thumb] {
-        thumb->setPageStep(source->pageStep());
-        thumb->setRange(source->minimum(), source->maximum());
-    });
-    QObject::connect(source, &QScrollBar::valueChanged, thumb, &QScrollBar::setValue);
-}
 } // namespace
 
 locationResult::locationResult(QWidget *parent)
@@ -26,8 +15,7 @@ locationResult::locationResult(QWidget *parent)
     ui->setupUi(this);
     caret = new LineCaret(ui->lineEdit_location);
     caret->hide();
-    ui->scrollBar_result->setAttribute(Qt::WA_TransparentForMouseEvents);
-    mirror(ui->listWidget->verticalScrollBar(), ui->scrollBar_result);
+    showScroll(ui->listWidget, ui->scrollBar_result);
     scroll = new DragScroll(ui->listWidget, this);
     ui->listWidget->viewport()->installEventFilter(this);
     show_locate_result();

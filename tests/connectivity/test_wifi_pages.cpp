@@ -191,11 +191,16 @@ private slots:
 
     void dragScrollsAndChoosesNothing()
     {
+        scanFinds(QStringList(5, "Network"));
+        QVERIFY(!visibleChild(Screen().page, "scrollBar_networks"));
         scanFinds(QStringList(500, "Network"));
         Screen screen;
+        const QWidget *thumb = visibleChild(screen.page, "scrollBar_networks");
+        QVERIFY(thumb);
         QScrollBar *bar = screen.list->verticalScrollBar();
         drag(&screen.window, screen.rowAt(4), screen.rowAt(1));
         QTRY_VERIFY(bar->value() >= 240);
+        QCOMPARE(thumb->property("value").toInt(), bar->value());
         QVERIFY(!screen.list->selectionModel()->hasSelection());
         // A fingertip rolls a little, and the list stays where it is.
         bar->setValue(8000);
