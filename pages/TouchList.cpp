@@ -1,20 +1,16 @@
 #include "pages/TouchList.h"
 
 #include "pages/DragScroll.h"
+#include "pages/RowLight.h"
 
 #include <QAbstractItemView>
 #include <QMouseEvent>
-#include <utility>
-
-namespace {
-// What a fingertip may roll without meaning to drag, in px.
-constexpr int tapSlack = 24;
-} // namespace
 
 TouchList::TouchList(QAbstractItemView *listView)
     : QObject(listView)
     , view(listView)
     , scroll(new DragScroll(listView, this))
+    , light(new RowLight(listView, {}, this))
 {
     // A row that is half in sight stays there when it is chosen.
     view->setAutoScroll(false);
@@ -30,23 +26,13 @@ bool TouchList::eventFilter(QObject *watched, QEvent *event)
                           second->button(), second->buttons(), second->modifiers());
         return eventFilter(watched, &press);
     }
+    const QModelIndex row = light->follow(event);
     if (!scroll->follow(watched, event))
         return QObject::eventFilter(watched, event);
-
-    const QPoint position = static_cast<QMouseEvent *>(event)->position().toPoint();
-    if (event->type() == QEvent::MouseButtonPress) {
-        pressPosition = position;
-        pressed = view->indexAt(position);
-    } else if ((position - pressPosition).manhattanLength() > tapSlack) {
-        pressed = QPersistentModelIndex();
-    }
-    if (event->type() == QEvent::MouseButtonRelease) {
-        const QModelIndex row = std::exchange(pressed, QPersistentModelIndex());
-        if (row.isValid()) {
-            view->selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
-            // The last of all: its receivers may delete the view.
-            view->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect);
-        }
+    if (row.isValid()) {
+        view->selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+        // The last of all: its receivers may delete the view.
+        view->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect);
     }
     return true;
 }

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QObject>
-#include <QPersistentModelIndex>
-#include <QPoint>
 
 class DragScroll;
 class QAbstractItemView;
+class RowLight;
 
-/// Makes a list follow the finger: a drag scrolls it, a tap selects the row under it.
+/// Makes a list follow the finger: a drag scrolls it, a tap selects the row under it, which is lit
+/// meanwhile.
 ///
 /// The view itself selects on press, so that every drag would choose the row it happens to begin
 /// on; here the choice falls when the finger is lifted near the place where it went down. The view
@@ -26,6 +26,5 @@ public:
 private:
     QAbstractItemView *view;
     DragScroll *scroll;
-    QPoint pressPosition;
-    QPersistentModelIndex pressed;
+    RowLight *light;
 };

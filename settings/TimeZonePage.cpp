@@ -1,13 +1,19 @@
 #include "settings/TimeZonePage.h"
 
 #include "pages/DragScroll.h"
+#include "pages/RowLight.h"
 #include "settings/TimeZoneItemDelegate.h"
 #include "ui_TimeZonePage.h"
 
 #include <QFile>
 #include <QTextStream>
+#include <chrono>
 
 namespace {
+using namespace std::chrono_literals;
+
+// A zone is chosen by a second tap: until then it says "this one, again".
+constexpr auto lightAfterTap = 600ms;
 constexpr int rowHeight = 120;
 constexpr int zoneWidth = 706;
 constexpr int checkMarkWidth = 148;
@@ -18,14 +24,17 @@ TimeZonePage::TimeZonePage(QWidget *parent)
 {
     ui->setupUi(this);
     fillTable();
+    light = new RowLight(ui->tableWidget_timeZone, lightAfterTap, this);
     scroll = new DragScroll(ui->tableWidget_timeZone, this);
     ui->tableWidget_timeZone->viewport()->installEventFilter(this);
 }
 
 bool TimeZonePage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == ui->tableWidget_timeZone->viewport())
+    if (watched == ui->tableWidget_timeZone->viewport()) {
+        light->follow(event);
         scroll->follow(watched, event);
+    }
     return SinglePage::eventFilter(watched, event);
 }
 

@@ -3,6 +3,7 @@
 #include "pages/FormPage.h"
 
 class DragScroll;
+class RowLight;
 
 namespace Ui {
 class TimeZonePage;
@@ -27,5 +28,6 @@ public slots:
 private:
     void fillTable();
 
+    RowLight *light;
     DragScroll *scroll;
 };

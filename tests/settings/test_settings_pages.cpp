@@ -227,36 +227,22 @@ private slots:
     void pressShowsAtOnceAndGoesWhereItCounts_data()
     {
         addRows<Pressed>(
-            {{"tile", "back_default_page", "option_setTime", "option_setTime", {99, 48}},
-             {"arrow", "back_default_page", "button_back", "button_back", {48, 40}},
-             {"row by its value",
-              "jump_setTime_page",
-              "frame_TimeZone",
-              "button_timeZone",
-              {660, 44}},
-             {"row by its name",
-              "jump_setNightPatternSlt",
-              "frame_startTime",
-              "button_startTime",
-              {99, 9}},
-             {"switch by its name",
-              "jump_setTime_page",
-              "frame_24Hours",
-              "checkBox_24Hours",
-              {99, 9}},
-             {"switch by its words",
-              "jump_adjustLight_page",
-              "frame_auto",
-              "checkBox_adjustLight",
-              {607, 66}}});
+            {{"tile", "back_default", "option_setTime", "option_setTime", {99, 48}},
+             {"arrow", "back_default", "button_back", "button_back", {48, 40}},
+             {"language", "jump_setLanguage", "qt_scrollarea_viewport", "listWidget", {99, 99}},
+             {"value", "jump_setTime", "frame_TimeZone", "button_timeZone", {660, 44}},
+             {"switch", "jump_setTime", "frame_24Hours", "checkBox_24Hours", {99, 9}},
+             {"words", "jump_adjustLight", "frame_auto", "checkBox_adjustLight", {607, 66}}});
     }
 
     void pressShowsAtOnceAndGoesWhereItCounts()
     {
         QFETCH(Pressed, row);
-        callSlot(page, row.page);
+        callSlot(page, QByteArray(row.page) + "_page");
         QWidget *lit = visibleChild(page, row.lit);
-        QSignalSpy taps(visibleChild(lit->parentWidget(), row.tapped), SIGNAL(clicked()));
+        QWidget *tapped = visibleChild(page, row.tapped);
+        QSignalSpy taps(tapped, tapped->inherits("QListWidget") ? SIGNAL(itemSelectionChanged())
+                                                                : SIGNAL(clicked()));
         const QPoint at = lit->mapTo(page, row.at);
         const auto onScreen = [this] {
             return window->screen()->grabWindow(window->winId()).toImage();

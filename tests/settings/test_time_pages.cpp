@@ -101,6 +101,12 @@ private slots:
         QCOMPARE(table->rowCount(), 16);
         QCOMPARE(table->item(15, 0)->text(), "MHT+09:00\t马绍尔群岛瓜加林岛时间");
         QVERIFY(table->findItems("1", Qt::MatchExactly).isEmpty());
+        const QImage dark = table->grab().toImage();
+        QElapsedTimer sinceTap;
+        sinceTap.start();
+        tapAt(menu.get(), {200, 100});
+        QTRY_COMPARE(table->grab().toImage(), dark);
+        QCOMPARE_GE(sinceTap.elapsed(), 570);
         for (const QPoint &at : {QPoint(200, 100), QPoint(750, 420)})
             doubleTapAt(menu.get(), at);
         QCOMPARE(table->findItems("1", Qt::MatchExactly).size(), 1);
