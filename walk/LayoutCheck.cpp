@@ -1,6 +1,7 @@
 #include "walk/LayoutCheck.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QFontMetrics>
 #include <QGraphicsProxyWidget>
@@ -8,19 +9,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTextDocument>
 #include <algorithm>
 
 namespace {
 constexpr int smallestTouch = 48;
-
-// A widget and where it stands on the screen, cut to what its ancestors show of it.
-struct Placed
-{
-    QWidget *widget;
-    QRect whole;
-    QRect seen;
-};
 
 QRect seenPart(QWidget *widget, QWidget *root)
 {
@@ -76,24 +70,26 @@ bool reacts(const QWidget *widget)
 
 QString nameOf(const QWidget *widget)
 {
-    return QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char(' ') +
-           widget->objectName();
+    const QString name = widget->objectName();
+    return QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') +
+           (name.isEmpty() ? QLatin1String(widget->parent()->metaObject()->className()) : name);
+}
+
+QString textOf(const Placed &placed)
+{
+    const bool isShown = qobject_cast<const QLabel *>(placed.widget) ||
+                         qobject_cast<const QAbstractButton *>(placed.widget);
+    return isShown ? placed.widget->property("text").toString() : QString();
 }
 
 QString cutText(const Placed &placed)
 {
-    QString text;
-    int margins = 0;
-    bool wraps = false;
-    if (auto *label = qobject_cast<QLabel *>(placed.widget)) {
-        text = label->text();
-        margins = 2 * label->margin();
-        wraps = label->wordWrap();
-    } else if (auto *button = qobject_cast<QAbstractButton *>(placed.widget)) {
-        text = button->text();
-    }
+    const QString text = textOf(placed);
     if (text.isEmpty())
         return {};
+    const auto *label = qobject_cast<const QLabel *>(placed.widget);
+    const int margins = label ? 2 * label->margin() : 0;
+    const bool wraps = label && label->wordWrap();
     QTextDocument document;
     document.setDefaultFont(placed.widget->font());
     document.setDocumentMargin(0);
@@ -117,7 +113,44 @@ QString cutText(const Placed &placed)
         .arg(placed.whole.width())
         .arg(placed.whole.height());
 }
+
+// Rows and tabs, in the coordinates of the widget that has them.
+QList<QRect> partsOf(const QWidget *widget)
+{
+    QList<QRect> parts;
+    if (auto *view = qobject_cast<const QAbstractItemView *>(widget)) {
+        const QAbstractItemModel *model = view->model();
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const QRect line = view->visualRect(model->index(row, 0)) |
+                               view->visualRect(model->index(row, model->columnCount() - 1));
+            parts.append(line.translated(view->viewport()->pos()));
+        }
+    } else if (auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            parts.append(tab == tabs->currentIndex() ? QRect() : tabs->tabRect(tab));
+    }
+    return parts;
+}
 } // namespace
+
+QList<Placed> touchPlaces(QWidget *window)
+{
+    QList<Placed> widgets;
+    collect(window, widgets);
+    QList<Placed> places;
+    for (const Placed &placed : widgets) {
+        if (reacts(placed.widget))
+            places.append({placed.widget, placed.whole, placed.seen, nameOf(placed.widget)});
+        const QList<QRect> parts = partsOf(placed.widget);
+        for (qsizetype part = 0; part < parts.size(); ++part) {
+            const QRect whole = parts[part].translated(placed.whole.topLeft());
+            if (!parts[part].isEmpty() && whole.intersects(placed.seen))
+                places.append({placed.widget, whole, whole & placed.seen,
+                               QStringLiteral("%1 %2").arg(nameOf(placed.widget)).arg(part)});
+        }
+    }
+    return places;
+}
 
 QStringList layoutFindings(QWidget *window)
 {
@@ -125,19 +158,16 @@ QStringList layoutFindings(QWidget *window)
     collect(window, widgets);
 
     QStringList findings;
-    QList<Placed> touchable;
-    for (const Placed &placed : widgets) {
-        const QString cut = cutText(placed);
-        if (!cut.isEmpty())
-            findings.append(cut);
-        if (!reacts(placed.widget))
-            continue;
+    for (const Placed &placed : widgets)
+        findings.append(cutText(placed));
+    findings.removeAll(QString());
+    const QList<Placed> touchable = touchPlaces(window);
+    for (const Placed &placed : touchable) {
         if (std::min(placed.whole.width(), placed.whole.height()) < smallestTouch)
             findings.append(QStringLiteral("too small for a finger: %1, %2 x %3")
-                                .arg(nameOf(placed.widget))
+                                .arg(placed.name)
                                 .arg(placed.whole.width())
                                 .arg(placed.whole.height()));
-        touchable.append(placed);
     }
     for (qsizetype first = 0; first < touchable.size(); ++first) {
         for (qsizetype second = first + 1; second < touchable.size(); ++second) {
@@ -146,8 +176,7 @@ QStringList layoutFindings(QWidget *window)
             const bool nested =
                 one.widget->isAncestorOf(other.widget) || other.widget->isAncestorOf(one.widget);
             if (!nested && one.seen.intersects(other.seen))
-                findings.append(QStringLiteral("overlap: %1 and %2")
-                                    .arg(nameOf(one.widget), nameOf(other.widget)));
+                findings.append(QStringLiteral("overlap: %1 and %2").arg(one.name, other.name));
         }
     }
     return findings;

@@ -39,7 +39,7 @@ Step calling(const char *className, const char *slot)
 }
 
 QStringList walkThrough(const Language &language,
-                        const std::function<void(const QString &, const QImage &)> &look)
+                        const std::function<QStringList(const QString &stop, Walk &)> &visit)
 {
     const InLanguage spoken(language);
     QStringList findings;
@@ -52,8 +52,8 @@ QStringList walkThrough(const Language &language,
                 step(walk);
                 walk.settle();
             }
-            look(stop.name, walk.picture());
-            for (const QString &finding : layoutFindings(walk.screen()))
+            const QStringList met = visit(stop.name, walk);
+            for (const QString &finding : met + layoutFindings(walk.screen()))
                 findings.append(stop.name + QStringLiteral(": ") + finding);
         }
     }

@@ -17,10 +17,10 @@ struct Stop
 };
 
 /// Walks in @p language from stop to stop, every page and every state that a person can
-/// reach, and hands each picture to @p look with the name of its stop. Returns what a
-/// person would stumble over on the way, a line each.
+/// reach, and lets @p visit look there; what it touches it leaves as it was. Returns what a person
+/// would stumble over on the way, what @p visit returns included, a line each.
 QStringList walkThrough(const Language &language,
-                        const std::function<void(const QString &, const QImage &)> &look);
+                        const std::function<QStringList(const QString &stop, Walk &)> &visit);
 
 Step tapping(const QString &name); ///< the widget of this object name
 Step tappingAt(const QPoint &position);

@@ -1,8 +1,8 @@
 #include "store/ZellDatabase.h"
 #include "testkit/Environment.h"
 #include "testkit/FixedClock.h"
-#include "walk/ContactSheet.h"
 #include "walk/Film.h"
+#include "walk/HeldPresses.h"
 #include "walk/Languages.h"
 #include "walk/Stops.h"
 
@@ -18,20 +18,25 @@ QDir folderOf(const QDir &target, const QString &name)
     return folder;
 }
 
-// Walks in one language and writes every picture; returns the findings.
+void write(const QImage &picture, const QDir &folder, const QString &name)
+{
+    if (!picture.save(folder.filePath(name + QStringLiteral(".png"))))
+        qFatal("cannot write to %s", qPrintable(folder.path()));
+}
+
+// Walks in one language and writes every picture, those of held presses below "held"; returns the
+// findings.
 QStringList photograph(const QString &language, const QDir &target)
 {
     const QDir folder = folderOf(target, language);
-    QList<NamedPicture> pictures;
-    QStringList findings =
-        walkThrough(Language(language + QStringLiteral(".qm")),
-                    [&](const QString &stop, const QImage &picture) {
-                        pictures.append({stop, picture});
-                        if (!picture.save(folder.filePath(stop + QStringLiteral(".png"))))
-                            qFatal("cannot write to %s", qPrintable(folder.path()));
-                    });
-    contactSheet(pictures).save(target.filePath("contact-" + language + ".png"));
-    return findings;
+    const QDir held = folderOf(folder, QStringLiteral("held"));
+    return walkThrough(Language(language + QStringLiteral(".qm")), [&](auto &stop, Walk &walk) {
+        write(walk.picture(), folder, stop);
+        int number = 0;
+        return holdEverything(walk, [&](const QString &place, const QImage &picture) {
+            write(picture, held, QStringLiteral("%1 %2 %3").arg(stop).arg(++number).arg(place));
+        });
+    });
 }
 } // namespace
 
