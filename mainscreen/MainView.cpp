@@ -3,23 +3,25 @@
 #include "acquisition/GetData.h"
 #include "mainscreen/BaseScene.h"
 #include "mainscreen/HumidityPage.h"
+#include "mainscreen/PageDots.h"
 #include "mainscreen/PmPage.h"
 #include "mainscreen/StripGeometry.h"
 #include "mainscreen/TemperaturePage.h"
 #include "pages/Look.h"
 
+#include <QCoreApplication>
 #include <QGraphicsPixmapItem>
 #include <QGraphicsProxyWidget>
 #include <QPixmapCache>
 #include <QTimeLine>
 #include <algorithm>
 #include <chrono>
-#include <cstdlib>
 
 namespace {
 using namespace std::chrono_literals;
 
 constexpr qreal backgroundLevel = 0;
+constexpr qreal dotsLevel = 1;
 constexpr qreal pageLevel = 2;
 constexpr qreal overlayLevel = 3;
 constexpr int firstFrame = -1000;
@@ -28,6 +30,24 @@ constexpr auto tick = 16ms;
 // In KB. The images of four proxies of the screen's size and every picture of the program share
 // this cache; an image that falls out of it is drawn anew in every frame.
 constexpr int pictureMemory = 32 * 1024;
+constexpr qreal leftOfTiles = 590;
+
+// Ends at the tiles on its way, so that no number runs under them and the side bar.
+class PageProxy : public QGraphicsProxyWidget
+{
+public:
+    PageProxy() { setFlag(ItemClipsToShape); }
+
+    QPainterPath shape() const override
+    {
+        QRectF seen = rect();
+        if (x() > 0)
+            seen.setRight(leftOfTiles - x());
+        QPainterPath path;
+        path.addRect(seen);
+        return path;
+    }
+};
 } // namespace
 
 MainView::MainView(QWidget *parent)
@@ -58,21 +78,25 @@ void MainView::scene_init()
 
     readingPages = {new PmPage, new TemperaturePage, new HumidityPage};
     for (BaseValue *page : std::as_const(readingPages))
-        addCached(page, pageLevel);
+        addCached(new PageProxy, page, pageLevel);
     baseScene = new BaseScene;
-    addCached(baseScene, overlayLevel);
+    addCached(new QGraphicsProxyWidget, baseScene, overlayLevel);
     background = graphicsScene.addPixmap(
         QPixmap(QStringLiteral(":/resource/images/mainPage/backgroud/backgroudMain.png")));
     background->setZValue(backgroundLevel);
+    dots = new PageDots;
+    dots->setZValue(dotsLevel);
+    graphicsScene.addItem(dots);
     graphicsScene.setItemIndexMethod(QGraphicsScene::NoIndex);
 
     change_page(firstFrame);
     baseScene->change_currentPage(currentPage);
 }
 
-void MainView::addCached(QWidget *widget, qreal z)
+void MainView::addCached(QGraphicsProxyWidget *proxy, QWidget *widget, qreal z)
 {
-    QGraphicsProxyWidget *proxy = graphicsScene.addWidget(widget);
+    proxy->setWidget(widget);
+    graphicsScene.addItem(proxy);
     proxy->setZValue(z);
     proxy->setCacheMode(QGraphicsItem::ItemCoordinateCache);
 }
@@ -152,6 +176,7 @@ void MainView::change_page(int frame)
     for (int i = 0; i < readingPages.size(); ++i)
         readingPages[i]->graphicsProxyWidget()->setPos(Strip::pageX(i, position, width()), 0);
     background->setPos(Strip::backgroundX(position, width(), background->pixmap().width()), 0);
+    dots->light(Strip::nearestPage(position));
     updateSight();
 }
 
@@ -160,11 +185,22 @@ void MainView::updateSight()
     const bool isSeen = isVisible() && !baseScene->showsHistory();
     for (BaseValue *page : std::as_const(readingPages)) {
         QGraphicsProxyWidget *proxy = page->graphicsProxyWidget();
-        const bool inSight = isSeen && std::abs(proxy->x()) < width();
-        // A page beside the view still touches its edge and would be drawn, out of sight.
-        proxy->setOpacity(inSight ? 1 : 0);
-        page->setInSight(inSight);
+        const double opacity = isSeen ? Strip::opacityAt(int(proxy->x()), width()) : 0;
+        proxy->setOpacity(opacity);
+        page->setInSight(opacity > 0);
     }
+}
+
+bool MainView::viewportEvent(QEvent *event)
+{
+    const bool isUsed = QGraphicsView::viewportEvent(event);
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (isPress)
+        isOffPages = !event->isAccepted();
+    if (isOffPages && (isPress || event->type() == QEvent::MouseButtonRelease))
+        QCoreApplication::sendEvent(readingPages.last(), event);
+    return isUsed;
 }
 
 void MainView::showEvent(QShowEvent *event)

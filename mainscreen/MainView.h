@@ -9,6 +9,7 @@
 class BaseScene;
 class BaseValue;
 class GetData;
+class PageDots;
 class QGraphicsPixmapItem;
 class QTimeLine;
 
@@ -34,6 +35,8 @@ public:
 protected:
     /// Paints the brush only where the background picture does not lie.
     void drawBackground(QPainter *painter, const QRectF &rect) override;
+    /// Takes swipes where there is no page, beyond the last one, for this page.
+    bool viewportEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -47,15 +50,15 @@ protected slots:
 
 private slots:
     void change_page(int frame);
-    /// Lets the pages rest that cannot be seen: those beside the view, and all while the view is
-    /// hidden or covered by the history.
+    /// Fades the pages on their way, and lets those rest that cannot be seen: beside the view, and
+    /// all while the view is hidden or covered by the history.
     void updateSight();
 
 private:
     void scene_init();
     void connect_init();
     void animation_init();
-    void addCached(QWidget *widget, qreal z);
+    void addCached(QGraphicsProxyWidget *proxy, QWidget *widget, qreal z);
     bool isSliding() const;
 
     QGraphicsScene graphicsScene;
@@ -64,6 +67,8 @@ private:
     QList<BaseValue *> readingPages;
     BaseScene *baseScene = nullptr;
     QGraphicsPixmapItem *background = nullptr;
+    PageDots *dots = nullptr;
+    bool isOffPages = false; ///< where the finger came down
     GetData *scheduler = nullptr;
     int currentPage = int(Quantity::Temperature);
 };

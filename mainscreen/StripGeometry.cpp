@@ -2,6 +2,9 @@
 
 #include "pages/Quantity.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace Strip {
 
 int frameAt(float position)
@@ -29,6 +32,20 @@ bool hasNext(float position)
 bool hasPrevious(float position)
 {
     return position < 0;
+}
+
+int nearestPage(float position)
+{
+    return int(std::lround(-position));
+}
+
+double opacityAt(int x, int viewWidth)
+{
+    constexpr double fadesFrom = 60;
+    constexpr double fadesOver = 240;
+    if (x <= 0)
+        return x > -viewWidth ? 1 : 0;
+    return std::clamp(1 - (x - fadesFrom) / fadesOver, 0.0, 1.0);
 }
 
 // Kept[tiles-lead-further]: tiles count from 1, the strip from 0.

@@ -25,6 +25,13 @@ int backgroundX(float position, int viewWidth, int pictureWidth);
 bool hasNext(float position);
 bool hasPrevious(float position);
 
+/// Tells which page is nearest to @p position, from 0; beyond the last one a number without a page.
+int nearestPage(float position);
+
+/// Tells how opaque a page is whose left edge is at @p x: it fades where its number would run under
+/// the tiles and the side bar, and beside the view there is nothing to be seen of it.
+double opacityAt(int x, int viewWidth);
+
 /// Tells by how many pages a tap on the tile numbered @p page slides (negative: onwards), nothing
 /// where it does not slide. The tiles lead one page further than their number says, and from the
 /// first two pages even beyond the last.

@@ -1,6 +1,7 @@
 #include "acquisition/GetData.h"
 #include "mainscreen/MainView.h"
 #include "mainscreen/PmAnimation.h"
+#include "pages/Look.h"
 #include "shell/MainWindow.h"
 #include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
@@ -86,8 +87,18 @@ private slots:
         // The background lies below everything else.
         QCOMPARE(int(view->scene()->items(Qt::AscendingOrder).first()->x()), row.backgroundX);
         QVERIFY(!embedded(row.hiddenTile)->isVisible());
-        if (row.position == -3)
-            QCOMPARE(window->grab().toImage().pixelColor(850, 479), QColor(0x07, 0x0b, 0x0e));
+        const QImage picture = window->grab().toImage();
+        for (const int page : {0, 1, 2})
+            QCOMPARE(picture.pixelColor(313 + 18 * page, 470) == Look::accent,
+                     page == -row.position);
+        if (row.position != -3)
+            return;
+        QCOMPARE(picture.pixelColor(850, 479), QColor(0x07, 0x0b, 0x0e));
+        // There is no page to swipe on.
+        swipe(-9);
+        QCOMPARE(position(), -3);
+        swipe(9);
+        QCOMPARE(position(), -2);
     }
 
     void overlayKeepsItsOwnPresses()
@@ -166,6 +177,29 @@ private slots:
         callSlot(scan->parentWidget(), "update_pmData", Q_ARG(int, 35));
         QVERIFY(!scan->isVisible());
         QVERIFY(embedded("frame_center")->isVisible());
+    }
+
+    void aPageFadesAtTheSideBar()
+    {
+        QGraphicsProxyWidget *page = nullptr;
+        for (const QWidget *widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "HumidityPage")
+                page = widget->graphicsProxyWidget();
+        }
+        const QMap<int, double> opacities{{-2854, 1}, {-2999, 1},   {-3000, 0}, {-2000, 1},
+                                          {-1930, 1}, {-1790, 0.5}, {-1648, 0}, {-1000, 0}};
+        for (const auto &[frame, opacity] : opacities.asKeyValueRange()) {
+            callSlot(view, "change_page", Q_ARG(int, frame));
+            QCOMPARE(page->opacity(), opacity);
+        }
+        // Half way into the fading it ends at the tiles.
+        callSlot(view, "change_page", Q_ARG(int, -1790));
+        const QImage with = window->grab().toImage();
+        page->hide();
+        const QImage without = window->grab().toImage();
+        QVERIFY(with != without);
+        const QRect tiles(590, 0, 264, 480);
+        QCOMPARE(with.copy(tiles), without.copy(tiles));
     }
 
     void aSlideTakesNothingElseAndChangesNoPicture()
