@@ -36,6 +36,18 @@ Backlight::Backlight(QObject *parent)
 void Backlight::setLevel(int level)
 {
     lastLevel = level;
+    if (!isDark)
+        passOn();
+}
+
+void Backlight::setDark(bool dark)
+{
+    isDark = dark;
+    passOn();
+}
+
+void Backlight::passOn()
+{
     if (rest.isActive())
         isWaiting = true;
     else
@@ -45,7 +57,7 @@ void Backlight::setLevel(int level)
 void Backlight::send()
 {
     const QString tool = shellQuoted(devicePath(QStringLiteral("/bin/qtapp/baklight")));
-    const QString command = QStringLiteral("%1 %2").arg(tool).arg(lastLevel);
+    const QString command = QStringLiteral("%1 %2").arg(tool).arg(isDark ? lowest : lastLevel);
     if (runCommand(command, longestWait, AtLimit::EndLater) == CommandEnd::HitLimit)
         rest.start();
 }

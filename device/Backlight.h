@@ -9,6 +9,10 @@ class Backlight : public QObject
     Q_OBJECT
 
 public:
+    /// The darkest level that leaves something to be seen, and the one before any is asked for.
+    static constexpr int lowest = 7;
+    static constexpr int atStart = 132;
+
     /// Finds the one backlight there is. Belongs to the application object.
     static Backlight &ofDevice();
 
@@ -20,14 +24,20 @@ public:
     /// one debug line.
     void setLevel(int level);
 
-    /// Tells the level asked for last, whatever became of it; -1 before the first.
+    /// Keeps the display at the lowest level while it is @p dark, and takes it back to level()
+    /// then: what is asked for meanwhile goes out when it is dark no more.
+    void setDark(bool dark);
+
+    /// Tells the level asked for last, whatever became of it.
     int level() const { return lastLevel; }
 
 private:
     explicit Backlight(QObject *parent);
+    void passOn();
     void send();
 
-    int lastLevel = -1;
+    int lastLevel = atStart;
+    bool isDark = false;
     bool isWaiting = false;
     QTimer rest{this};
 };

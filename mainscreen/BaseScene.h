@@ -43,6 +43,10 @@ signals:
     void shownPageChanged();
     /// Asks for the settings.
     void signal_jumpToOption();
+    /// Asks for the Wi-Fi page of the settings.
+    void wifiAsked();
+    /// Asks for a dark screen.
+    void darknessAsked();
     /// Tells that the tile of @p iPage, the number of a Quantity, was tapped.
     void signal_jumpPage(int iPage);
 
@@ -51,6 +55,8 @@ protected:
 
 private slots:
     void on_button_option_clicked() { emit signal_jumpToOption(); }
+    void on_button_wifi_clicked() { emit wifiAsked(); }
+    void on_button_power_clicked() { emit darknessAsked(); }
     void on_button_history_clicked();
     void on_frame_humidity_clicked() { emit signal_jumpPage(int(Quantity::Humidity)); }
     void on_frame_pm_clicked() { emit signal_jumpPage(int(Quantity::Pm)); }

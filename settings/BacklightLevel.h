@@ -1,13 +1,15 @@
 #pragma once
 
+#include "device/Backlight.h"
+
 #include <optional>
 
 /// The levels of the backlight as the brightness page offers them. Pure.
 namespace BacklightLevel {
 
-constexpr int lowest = 7;
+constexpr int lowest = Backlight::lowest;
 constexpr int highest = 257;
-constexpr int atOpening = 132;
+constexpr int atOpening = Backlight::atStart;
 
 /// How the groove of the slider is drawn; only its pictures differ.
 enum class Groove { Low, Normal, Full };

@@ -6,6 +6,7 @@
 #include "pages/Fonts.h"
 #include "pages/SlideIn.h"
 #include "settings/OptionPage.h"
+#include "shell/ScreenOff.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -39,6 +40,7 @@ MainWindow::MainWindow(QWidget *parent)
     ui->stackedWidget->setCurrentWidget(ui->page_main);
     mainView = new MainView(ui->page_main);
     optionPage = new OptionPage(ui->page_option);
+    screenOff = new ScreenOff(this);
     connect_init();
     new CancelledTouch(this);
 }
@@ -63,6 +65,8 @@ void MainWindow::font_init()
 void MainWindow::connect_init()
 {
     connect(mainView->overlay(), &BaseScene::signal_jumpToOption, this, &MainWindow::jump_toOption);
+    connect(mainView->overlay(), &BaseScene::wifiAsked, this, &MainWindow::openWifi);
+    connect(mainView->overlay(), &BaseScene::darknessAsked, screenOff, &ScreenOff::darken);
     connect(optionPage, &OptionPage::signal_back_lastPage, this, &MainWindow::jump_toMainPage);
 }
 
@@ -91,6 +95,15 @@ void MainWindow::jump_toOption()
 {
     connect(slideIn(ui->page_option), &QPropertyAnimation::finished, this,
             &MainWindow::anOption_finished);
+}
+
+void MainWindow::openWifi()
+{
+    // A second tap during the scan arrives after it, and would start another one.
+    if (ui->page_option->isVisible())
+        return;
+    optionPage->jump_setWifi_page();
+    jump_toOption();
 }
 
 void MainWindow::anOption_finished()

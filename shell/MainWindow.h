@@ -7,6 +7,7 @@
 
 class MainView;
 class OptionPage;
+class ScreenOff;
 namespace Ui {
 class MainWindow;
 }
@@ -33,6 +34,8 @@ public slots:
     void jump_toOption();
     void jump_toMainPage();
     void anOption_finished();
+    /// Slides the settings in with their Wi-Fi page on them. Nothing while they are on their way.
+    void openWifi();
 
 private:
     void style_setup();
@@ -44,4 +47,5 @@ private:
     bool active = true;
     PM25Uart uart;
     OptionPage *optionPage = nullptr;
+    ScreenOff *screenOff = nullptr;
 };

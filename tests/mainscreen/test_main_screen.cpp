@@ -1,8 +1,11 @@
 #include "acquisition/GetData.h"
+#include "connectivity/SetWifiPage.h"
+#include "device/Backlight.h"
 #include "mainscreen/MainView.h"
 #include "mainscreen/PmAnimation.h"
 #include "pages/Look.h"
 #include "shell/MainWindow.h"
+#include "shell/ScreenOff.h"
 #include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
@@ -177,6 +180,60 @@ private slots:
         callSlot(scan->parentWidget(), "update_pmData", Q_ARG(int, 35));
         QVERIFY(!scan->isVisible());
         QVERIFY(embedded("frame_center")->isVisible());
+    }
+
+    void wifiButtonOpensItsPageOnce()
+    {
+        const QPoint place = centre("button_wifi");
+        for (int taps = 2; taps > 0; --taps)
+            tapAt(window.get(), place);
+        QTRY_VERIFY(!view->isVisible());
+        QCOMPARE(window->findChildren<SetWifiPage *>().size(), 1);
+        QVERIFY(!visibleChild(window.get(), "option_setWifi"));
+        tapAt(window.get(), {47, 40});
+        QVERIFY(visibleChild(window.get(), "option_setWifi"));
+        tapAt(window.get(), {47, 40});
+        QVERIFY(view->isVisible());
+    }
+
+    void powerButtonDarkensAndTheNextTouchOnlyWakes()
+    {
+        constexpr int doubleTapTime = 400;
+        const auto levels = [] {
+            return Environment::contentOf(Environment::device().backlightLog()).split('\n');
+        };
+        const QPoint option = centre("button_option");
+        auto *cover = window->findChild<ScreenOff *>();
+        const auto *settings = window->findChild<QWidget *>("page_option");
+        const QImage before = window->grab().toImage();
+        QImage dark = before;
+        dark.fill(Qt::black);
+        // In haste: the second tap wakes nothing.
+        doubleTapAt(window.get(), centre("button_power"));
+        QCOMPARE(window->grab().toImage(), dark);
+        for (const int asked : {200, 90})
+            Backlight::ofDevice().setLevel(asked);
+        QCOMPARE(levels(), QByteArrayList({"7", ""}));
+
+        pressAt(window.get(), option, doubleTapTime);
+        QCOMPARE(levels(), QByteArrayList({"7", "90", ""}));
+        QCOMPARE(window->grab().toImage(), before);
+        releaseAt(window.get(), option);
+        // The second half of a double tap.
+        pressAt(window.get(), option, doubleTapTime);
+        releaseAt(window.get(), option);
+        QVERIFY(!settings->isVisible());
+        QTRY_VERIFY(!cover->isVisible());
+        tapAt(window.get(), option);
+        QVERIFY(settings->isVisible());
+
+        callSlot(cover, "darken");
+        pressAt(window.get(), option);
+        cancelAt(window.get(), option);
+        QTRY_VERIFY(!cover->isVisible());
+        callSlot(cover, "darken");
+        window.reset();
+        QCOMPARE(levels(), QByteArrayList({"7", "90", "7", "90", "7", "90", ""}));
     }
 
     void aPageFadesAtTheSideBar()
