@@ -20,13 +20,6 @@ constexpr int daysOfWeek = 7;
 constexpr int rangeDivisions = 3;
 // Where one rectangle costs more than the two markers in it, in pixels.
 constexpr int widestRepaint = 200;
-
-// Kept[else-humidity]: any number that is no quantity's counts as humidity.
-QString unitOf(int type)
-{
-    const QuantityLook *look = lookOf(type);
-    return (look ? *look : lookOf(Quantity::Humidity)).unit.toString();
-}
 } // namespace
 
 Blackboard::Blackboard(QWidget *parent, LocalTime::Clock currentTime)
@@ -59,6 +52,13 @@ void Blackboard::setValueMap(const QMap<int, float> &map, int newType)
     times.clear();
     screenXs.clear();
     update();
+}
+
+// Kept[else-humidity]: any number that is no quantity's counts as humidity.
+const QuantityLook &Blackboard::look() const
+{
+    const QuantityLook *known = lookOf(type);
+    return known ? *known : lookOf(Quantity::Humidity);
 }
 
 std::pair<int, int> Blackboard::getDayTimeRange(CurrentDay wanted) const
@@ -201,7 +201,7 @@ void Blackboard::paintEvent(QPaintEvent *event)
     // Kept[touch-from-painting]: again with every repaint.
     // Whoever listens may change what lies around the chart: not under a painter at work.
     painter.end();
-    emit signalTouch(float(x), time, value, marker.color, unitOf(type));
+    emit signalTouch(float(x), time, value, marker.color, look().unit.toString());
 }
 
 void Blackboard::resizeEvent(QResizeEvent *event)

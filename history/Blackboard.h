@@ -11,6 +11,7 @@
 #include <utility>
 
 class QTimeLine;
+struct QuantityLook;
 
 /// A day of the chart: 0 for today, 1 for yesterday ... 6; 7 for the whole week.
 using CurrentDay = int;
@@ -34,6 +35,9 @@ public:
     /// Shows @p map, Unix time to value, as quantity @p newType: 1 PM2.5, 2 temperature, any other
     /// humidity. Values that are no numbers are left out with a debug line.
     void setValueMap(const QMap<int, float> &map, int newType);
+
+    /// Gives the look of the quantity that is shown.
+    const QuantityLook &look() const;
 
     /// Gives the start and, exclusive, the end of @p day in Unix seconds; always today in the
     /// 24-hour presentation.

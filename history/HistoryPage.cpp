@@ -77,6 +77,9 @@ void HistoryPage::loadData()
     // Kept[demonstration-series]: not what the device has measured.
     std::srand(unsigned(now));
     blackboard->setValueMap(demonstrationSeries(now, quantity, std::rand), quantity);
+    const QuantityLook &look = blackboard->look();
+    ui->label_sign->setPixmap(QPixmap(look.sign.toString()));
+    ui->label_title->setText(QStringLiteral("%1  %2").arg(titleOf(look), look.unit));
 }
 
 void HistoryPage::showEvent(QShowEvent *event)

@@ -96,7 +96,7 @@ void BaseScene::change_currentPage(int page)
         // The unit of the caption, not of a tile.
         ui->label_unit->setVisible(look->unitPicture.isEmpty());
         if (look->logo.isEmpty())
-            ui->label_logo->setText(look->title.toString());
+            ui->label_logo->setText(titleOf(*look));
         else
             ui->label_logo->setPixmap(QPixmap(look->logo.toString()));
     }

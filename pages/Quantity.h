@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QStringView>
 #include <algorithm>
 #include <array>
@@ -12,27 +13,31 @@ enum class Quantity { Pm = 1, Temperature, Humidity };
 struct QuantityLook
 {
     Quantity quantity = Quantity::Pm;
-    QStringView title;
+    const char *title; ///< in the language of the sources, see titleOf()
     QStringView unit;
-    QStringView logo;        ///< its sign, a picture; none where the title serves
+    QStringView sign;        ///< a picture in the accent colour
+    QStringView logo;        ///< a picture in white; none where the title serves
     QStringView unitPicture; ///< the unit beside its large number; none where the caption holds it
 };
 
 /// Every quantity, in the order of the numbers and of the main screen's pages.
 inline constexpr std::array quantities{
     QuantityLook{.quantity = Quantity::Pm,
-                 .title = u"PM2.5",
+                 .title = QT_TRANSLATE_NOOP("Quantity", "PM2.5"),
                  .unit = u"μg/m³",
+                 .sign = u":/resource/images/mainPage/logo/signPm.png",
                  .logo = {},
                  .unitPicture = {}},
     QuantityLook{.quantity = Quantity::Temperature,
-                 .title = u"温度",
+                 .title = QT_TRANSLATE_NOOP("Quantity", "温度"),
                  .unit = u"℃",
+                 .sign = u":/resource/images/mainPage/logo/signTemperature.png",
                  .logo = u":/resource/images/mainPage/logo/logoTemperature.png",
                  .unitPicture = u":/resource/images/mainPage/num/°C.png"},
     QuantityLook{.quantity = Quantity::Humidity,
-                 .title = u"湿度",
+                 .title = QT_TRANSLATE_NOOP("Quantity", "湿度"),
                  .unit = u"%",
+                 .sign = u":/resource/images/mainPage/logo/signHumidity.png",
                  .logo = u":/resource/images/mainPage/logo/logoHumidity.png",
                  .unitPicture = u":/resource/images/mainPage/num/%.png"},
 };
@@ -48,4 +53,10 @@ constexpr const QuantityLook *lookOf(int number)
 constexpr const QuantityLook &lookOf(Quantity quantity)
 {
     return *lookOf(int(quantity));
+}
+
+/// Tells the title of a quantity in the language in use.
+inline QString titleOf(const QuantityLook &look)
+{
+    return QCoreApplication::translate("Quantity", look.title);
 }

@@ -191,6 +191,21 @@
     </message>
 </context>
 <context>
+    <name>Quantity</name>
+    <message>
+        <source>PM2.5</source>
+        <translation>PM2.5</translation>
+    </message>
+    <message>
+        <source>温度</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>湿度</source>
+        <translation>湿度</translation>
+    </message>
+</context>
+<context>
     <name>SetTimePage</name>
     <message>
         <source>日期时间</source>

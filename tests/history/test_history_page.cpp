@@ -65,9 +65,16 @@ private slots:
         QCOMPARE(readOutText(0), QString("2005-7-11/23:02"));
         QCOMPARE(readOutText(1), QString::number(reading[2].toDouble(), 'f', 1));
         QCOMPARE(readOutText(2), QString("℃"));
-        // Another quantity is shown with the next data.
-        page->showing(1);
-        page->loadData();
+        // Another quantity is shown with the next data, and a number of none as humidity.
+        QString shown = "温度  ℃";
+        for (const auto &[number, title] :
+             QList<std::pair<int, QString>>{{3, "湿度  %"}, {0, "湿度  %"}, {1, "PM2.5  μg/m³"}}) {
+            page->showing(number);
+            QCOMPARE(labelOf("label_title")->text(), shown);
+            page->loadData();
+            shown = title;
+        }
+        QCOMPARE(labelOf("label_title")->text(), shown);
         QTRY_COMPARE(readOutText(2), QString("μg/m³"));
         releaseAt(page.get(), {90, 30});
         QVERIFY(!readOut()->isVisible());
@@ -94,6 +101,7 @@ private slots:
     }
 
 private:
+    QLabel *labelOf(const char *name) { return page->findChild<QLabel *>(name); }
     QWidget *readOut() { return page->findChild<SlideLabel *>(); }
     QString readOutText(int label) { return readOut()->findChildren<QLabel *>()[label]->text(); }
     QString dayText(int day)
