@@ -2,16 +2,67 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
 
 namespace {
 constexpr int horizontalGap = 9;
 constexpr int verticalGap = 3;
 constexpr int chipHeight = 42;
 constexpr int unitWidth = 73;
+constexpr QColor contourColor(0x21, 0x21, 0x21, 160);
+constexpr int contourWidth = 3;
 
+// White on a plate of any colour: a dark contour below the glyphs keeps them legible. Each of the
+// few glyphs is drawn once, as strokes would cost more than all else that a moving finger repaints.
+class OutlinedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        int width = 0;
+        for (const QChar sign : text())
+            width += glyph(sign).width() - 2 * contourWidth;
+        const QRect place = contentsRect();
+        int x = place.x() + (place.width() - width) / 2 - contourWidth;
+        QPainter painter(this);
+        drawFrame(&painter);
+        for (const QChar sign : text()) {
+            const QPixmap picture = glyph(sign);
+            painter.drawPixmap(x, place.bottom() + 1 - picture.height(), picture);
+            x += picture.width() - 2 * contourWidth;
+        }
+    }
+
+private:
+    // As wide as its advance, with room for the contour on both sides.
+    QPixmap glyph(QChar sign)
+    {
+        QPixmap &picture = glyphs[sign];
+        if (!picture.isNull())
+            return picture;
+        const QFontMetrics metrics = fontMetrics();
+        picture = QPixmap(metrics.horizontalAdvance(sign) + 2 * contourWidth, metrics.height());
+        picture.fill(Qt::transparent);
+        QPainterPath shape;
+        shape.addText(contourWidth, metrics.ascent(), font(), sign);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.strokePath(shape, QPen(contourColor, contourWidth));
+        painter.fillPath(shape, Qt::white);
+        return picture;
+    }
+
+    QHash<QChar, QPixmap> glyphs;
+};
+
+template <class Label = QLabel>
 QLabel *makeLabel(QWidget *parent, const QString &text, int pixelSize, Qt::Alignment alignment)
 {
-    auto *label = new QLabel(text, parent);
+    auto *label = new Label(text, parent);
     QFont font = label->font();
     font.setPixelSize(pixelSize);
     label->setFont(font);
@@ -25,7 +76,8 @@ SlideLabel::SlideLabel(QWidget *parent)
     : QWidget(parent)
     , timeLabel(makeLabel(this, QStringLiteral("2005-7-11/23:02"), 24,
                           Qt::AlignHCenter | Qt::AlignBottom))
-    , valueLabel(makeLabel(this, QStringLiteral("77"), 34, Qt::AlignHCenter | Qt::AlignBottom))
+    , valueLabel(makeLabel<OutlinedLabel>(this, QStringLiteral("77"), 34,
+                                          Qt::AlignHCenter | Qt::AlignBottom))
     , unitLabel(makeLabel(this, QStringLiteral("cm"), 32, Qt::AlignCenter))
 {
     setStyleSheet(QStringLiteral("QLabel {background: transparent; font-family: Helvetica;}"));

@@ -65,6 +65,13 @@ private slots:
         QCOMPARE(readOutText(0), QString("2005-7-11/23:02"));
         QCOMPARE(readOutText(1), QString::number(reading[2].toDouble(), 'f', 1));
         QCOMPARE(readOutText(2), QString("℃"));
+        // White on a bright plate, and dark where the two meet.
+        const QImage plate = readOut()->grab({30, 40, 60, 30}).toImage();
+        QSet<int> lightness;
+        for (int i = 0; i < plate.width() * plate.height(); ++i)
+            lightness.insert(qGray(plate.pixel(i % plate.width(), i / plate.width())));
+        QVERIFY(lightness.contains(255));
+        QVERIFY(*std::ranges::min_element(lightness) < 110);
         // Another quantity is shown with the next data, and a number of none as humidity.
         QString shown = "温度  ℃";
         for (const auto &[number, title] :
