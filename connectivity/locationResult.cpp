@@ -3,6 +3,7 @@
 #include "connectivity/LineCaret.h"
 #include "connectivity/ScrollThumb.h"
 #include "pages/DragScroll.h"
+#include "pages/RowLight.h"
 #include "ui_locationResult.h"
 
 namespace {
@@ -16,6 +17,7 @@ locationResult::locationResult(QWidget *parent)
     caret = new LineCaret(ui->lineEdit_location);
     caret->hide();
     showScroll(ui->listWidget, ui->scrollBar_result);
+    light = new RowLight(ui->listWidget, {}, this);
     scroll = new DragScroll(ui->listWidget, this);
     ui->listWidget->viewport()->installEventFilter(this);
     show_locate_result();
@@ -26,8 +28,11 @@ locationResult::locationResult(QWidget *parent)
 bool locationResult::eventFilter(QObject *watched, QEvent *event)
 {
     // What the finger does ends here: the list would mark places and scroll by itself.
-    if (ui && watched == ui->listWidget->viewport() && scroll->follow(watched, event))
-        return true;
+    if (ui && watched == ui->listWidget->viewport()) {
+        light->follow(event);
+        if (scroll->follow(watched, event))
+            return true;
+    }
     return FormPage::eventFilter(watched, event);
 }
 

@@ -4,6 +4,7 @@
 
 class DragScroll;
 class LineCaret;
+class RowLight;
 
 namespace Ui {
 class locationResult;
@@ -31,5 +32,6 @@ private:
     void showPlaces(bool found);
 
     LineCaret *caret;
+    RowLight *light;
     DragScroll *scroll;
 };

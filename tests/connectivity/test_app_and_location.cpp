@@ -120,6 +120,11 @@ private slots:
         result->show_locate_result();
         QVERIFY(!on("label_noResult"));
         QTRY_COMPARE(bar->maximum(), 14 * 80 - 320);
+        const QImage still = page->grab().toImage();
+        pressAt(page.get(), {400, 360});
+        QVERIFY(page->grab().toImage() != still);
+        releaseAt(page.get(), {400, 360});
+        QTRY_COMPARE(page->grab().toImage(), still);
         drag(page.get(), {400, 400}, {400, 340}, 1);
         QTRY_COMPARE(bar->value(), 60);
         QCOMPARE(on("scrollBar_result")->property("value").toInt(), 60);
