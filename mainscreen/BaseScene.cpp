@@ -15,8 +15,8 @@
 #include <algorithm>
 
 namespace {
-// Smaller, so that four places fit into the tile, and down by what keeps them in its middle.
-const QString smallReading = QStringLiteral("font-size: 48px; padding-top: 7px;");
+// Four places fit into the tile in it.
+const QString smallReading = QStringLiteral("font-size: 48px;");
 constexpr int placesOfATile = 3;
 
 // The picture of the dashes stands lower than a line of text would.
@@ -24,9 +24,11 @@ constexpr int placesOfATile = 3;
 void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> companions)
 {
     if (reading != invalidReading) {
-        label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
         label->setText(QStringLiteral("%1").arg(reading));
-        const QString style = label->text().size() > placesOfATile ? smallReading : QString();
+        const bool isLong = label->text().size() > placesOfATile;
+        // Either way on the line of the other tile's.
+        label->setAlignment(Qt::AlignHCenter | (isLong ? Qt::AlignBottom : Qt::AlignTop));
+        const QString style = isLong ? smallReading : QString();
         if (label->styleSheet() != style)
             label->setStyleSheet(style);
         return;

@@ -33,9 +33,14 @@ void holdScan(Walk &walk)
     }
 }
 
-void freeze(Walk &walk)
+Step reading(double celsius, double percent)
 {
-    walk.setReadings(-5.5, 99.9);
+    return [=](Walk &walk) { walk.setReadings(celsius, percent); };
+}
+
+Step particles(int value)
+{
+    return [value](Walk &walk) { walk.setParticles(value); };
 }
 } // namespace
 
@@ -44,13 +49,21 @@ std::vector<Stop> mainScreenStops()
     return {
         {"main-temperature", {}},
         {"main-pm25", {toPreviousPage}},
-        {"main-scanning", {holdScan}},
+        {"history-pm25", {tapping("button_history")}},
+        {"main-scanning", {tapping("button_back"), holdScan}},
         {"main-humidity", {toNextPage, toNextPage}},
-        {"main-negative", {toPreviousPage, freeze}},
+        {"main-hundred", {reading(23.456, 100), particles(1023)}},
+        {"history-humidity", {tapping("button_history")}},
+        {"main-negative",
+         {tapping("button_back"), toPreviousPage, particles(567), reading(-5.5, 99.9)}},
         {"history-24h", {tapping("button_history")}},
         {"history-7days", {tappingAt(tabOfSevenDays)}},
         {"history-7days-touch", {tapping("radio_day2"), pressingAt(dotOnTheChart)}},
         {"history-7days-other", {&Walk::release, tapping("radio_day4")}},
         {"main-no-reading", {tapping("button_back"), &Walk::breakSensor}},
+        {"screen-off", {tapping("button_power")}},
+        // The first touch only wakes.
+        {"main-beyond-the-last",
+         {tappingAt(number), reading(23.456, 40.2), tapping("frame_humidity")}},
     };
 }

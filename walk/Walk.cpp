@@ -223,6 +223,12 @@ void Walk::breakSensor()
     readSensorNow();
 }
 
+void Walk::setParticles(int value)
+{
+    for (GetData *scheduler : GetData::objects())
+        emit scheduler->signal_updatePMData(value);
+}
+
 void Walk::readSensorNow() const
 {
     // A row builds one more.

@@ -53,6 +53,8 @@ public:
     /// Gives the sensor new readings and lets the schedulers read them.
     void setReadings(double celsius, double percent);
     void breakSensor();
+    /// Lets the schedulers report @p value as PM2.5.
+    void setParticles(int value);
     /// Lets the wireless scanner find @p names from now on.
     void setNetworks(const QStringList &names);
 
