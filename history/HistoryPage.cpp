@@ -7,6 +7,8 @@
 
 #include <QDateTime>
 #include <QDebug>
+#include <QProxyStyle>
+#include <QTabBar>
 #include <chrono>
 #include <cstdlib>
 
@@ -31,6 +33,23 @@ const QString tabStyle = QStringLiteral(
 const QString dayStyle = QStringLiteral(
     "QRadioButton {font:bold 24px;}QRadioButton::checked {color:#ffffff}QRadioButton::unchecked "
     "{color:#4E4E4E}QRadioButton::indicator {width: 0px; height: 0px;}");
+// Under the finger.
+const QString pressedTabStyle = QStringLiteral("QTabBar::tab:!selected:pressed {background-color: "
+                                               "rgba(0, 229, 255, 33); border-radius: 5px;}");
+const QString pressedDayStyle = QStringLiteral("QRadioButton:pressed {color: #ffffff}");
+
+// Tabs are chosen on release like all else: the panel may cancel a touch.
+class TabStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *answer) const override
+    {
+        return hint == SH_TabBar_SelectMouseType
+                   ? int(QEvent::MouseButtonRelease)
+                   : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
 } // namespace
 
 HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
@@ -41,8 +60,13 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
 {
     ui->setupUi(this);
     ui->tabWidget->setStyleSheet(tabStyle);
+    QTabBar *tabs = ui->tabWidget->tabBar();
+    auto *style = new TabStyle;
+    style->setParent(tabs);
+    tabs->setStyle(style);
+    tabs->setStyleSheet(pressedTabStyle);
     for (auto *button : ui->day_group->findChildren<QRadioButton *>())
-        button->setStyleSheet(dayStyle);
+        button->setStyleSheet(dayStyle + pressedDayStyle);
     ui->day_group->hide();
     slideLabel->setGeometry(0, 0, 200, 100);
     slideLabel->raise();

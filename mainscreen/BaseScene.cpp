@@ -75,9 +75,6 @@ void BaseScene::connect_init()
             Qt::UniqueConnection);
     connect(historyPage, &HistoryPage::signal_backDefaultPage, this, &BaseScene::jump_scenePage,
             Qt::UniqueConnection);
-    // The clock of the history capsule belongs to the button beside it.
-    connect(ui->button_historyLogo, &QPushButton::clicked, this,
-            &BaseScene::on_button_history_clicked, Qt::UniqueConnection);
 }
 
 // Kept[idle-motions]: made at start-up; no motion of the overlay uses them yet.
@@ -103,6 +100,14 @@ void BaseScene::change_currentPage(int page)
             ui->label_logo->setPixmap(QPixmap(look->logo.toString()));
     }
     historyPage->showing(page);
+}
+
+void BaseScene::setLeading(Quantity quantity, bool leads)
+{
+    OptionFrame *tile = quantity == Quantity::Pm            ? ui->frame_pm
+                        : quantity == Quantity::Temperature ? ui->frame_temperature
+                                                            : ui->frame_humidity;
+    tile->setStill(!leads);
 }
 
 void BaseScene::update_pmData(int value)

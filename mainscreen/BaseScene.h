@@ -27,13 +27,16 @@ public:
     /// number leaves them as they are. The history is told the number in any case.
     void change_currentPage(int page);
 
+    /// Keeps the tile of @p quantity dark under the finger unless a tap on it leads anywhere now.
+    void setLeading(Quantity quantity, bool leads);
+
     /// Shows on the tiles what @p scheduler reports.
     void follow(const GetData *scheduler);
 
     /// Tells whether the history covers the main screen, once it has slid in.
     bool showsHistory() const;
 
-    /// Connects the way back from the history and the clock beside its button, once.
+    /// Connects the way back from the history, once.
     void connect_init();
     /// Makes the animations that are kept for the motions of the overlay.
     void animation_init();

@@ -177,6 +177,9 @@ void MainView::change_page(int frame)
         readingPages[i]->graphicsProxyWidget()->setPos(Strip::pageX(i, position, width()), 0);
     background->setPos(Strip::backgroundX(position, width(), background->pixmap().width()), 0);
     dots->light(Strip::nearestPage(position));
+    for (const QuantityLook &look : quantities)
+        baseScene->setLeading(look.quantity,
+                              Strip::slideToChosen(position, int(look.quantity)).has_value());
     updateSight();
 }
 

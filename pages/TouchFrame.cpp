@@ -106,7 +106,7 @@ bool TouchFrame::isNear() const
 void TouchFrame::setLit(bool on)
 {
     static const QMetaMethod tap = QMetaMethod::fromSignal(&TouchFrame::clicked);
-    const bool wanted = on && plateRadius > 0 && (isSignalConnected(tap) || ownButton());
+    const bool wanted = on && !still && plateRadius > 0 && (isSignalConnected(tap) || ownButton());
     if (lit == wanted)
         return;
     lit = wanted;

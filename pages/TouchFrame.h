@@ -19,9 +19,13 @@ class TouchFrame : public QFrame
     Q_OBJECT
     /// The corners of the plate, in px: the style sheet knows it. 0 is no plate, thus no light.
     Q_PROPERTY(int plateRadius MEMBER plateRadius)
+    Q_PROPERTY(bool still MEMBER still)
 
 public:
     explicit TouchFrame(QWidget *parent = nullptr);
+
+    /// Keeps the frame dark under the finger while a tap on it leads nowhere.
+    void setStill(bool on) { still = on; }
 
     /// Takes the presses on its buttons.
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -54,6 +58,7 @@ private:
     QPoint releasePosition;
     bool pressed = false;
     bool lit = false;
+    bool still = false;
     int plateRadius = 0;
     // Restarted by every press: with one single-shot per press, the timer of a first tap would
     // spoil a second one shortly after it.

@@ -8,6 +8,7 @@
 #include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTextDocument>
@@ -63,7 +64,11 @@ bool reacts(const QWidget *widget)
 {
     if (qobject_cast<const QScrollBar *>(widget))
         return false;
-    return widget->isEnabled() &&
+    // A day that is chosen already.
+    const auto *day = qobject_cast<const QRadioButton *>(widget);
+    if (day && day->isChecked())
+        return false;
+    return widget->isEnabled() && !widget->property("still").toBool() &&
            (qobject_cast<const QAbstractButton *>(widget) ||
             qobject_cast<const QAbstractSlider *>(widget) || widget->inherits("TouchFrame"));
 }
