@@ -40,8 +40,10 @@ QString scanCommand(const QString &directory)
 void runScan(const QString &command, std::chrono::milliseconds limit)
 {
     // Not a limit for the reader alone: a scanner that never ends would fill the disk. To grep a
-    // scan with one odd byte in a name is no text, unless it is told so.
-    const QString before = QStringLiteral("ulimit -f %1; grep() { command grep -a \"$@\"; }; ");
+    // scan with one odd byte in a name is no text, unless it is told so; and what a hanging scanner
+    // has found would go with it.
+    const QString before =
+        QStringLiteral("ulimit -f %1; grep() { command grep -a --line-buffered \"$@\"; }; ");
     runCommand(before.arg(mostBytes / shellBlock) + command, limit);
 }
 

@@ -15,8 +15,8 @@ QString scanFilePath(const QString &directory);
 /// executed, whatever characters it holds.
 QString scanCommand(const QString &directory);
 
-/// Runs @p command and waits for it. At @p limit it is ended; what it wrote until then, or its
-/// first 8 MB, stay as the result.
+/// Runs @p command and waits for it. At @p limit it is ended; the whole lines that it wrote until
+/// then, or its first 8 MB, stay as the result.
 void runScan(const QString &command, std::chrono::milliseconds limit = std::chrono::seconds(20));
 
 /// Reads the names in @p scan, in its order, with duplicates and hidden (empty) ones: every line

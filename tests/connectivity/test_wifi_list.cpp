@@ -135,7 +135,7 @@ private slots:
         const QByteArray line = scanLine("A").chopped(1);
         addRows<Scan>({
             {"never ends", "yes '" + line + "'", QStringList(1000, "A")},
-            {"hangs", "trap '' TERM; echo '" + line + "'; sleep 30", {}},
+            {"hangs", "trap '' TERM; printf '" + line + "\nESSID:\"half'; sleep 30", {"A"}},
             {"bytes that are no text",
              "printf '" + scanLine("a\\0\\377b") + line + "\n'",
              {QString("a") + QChar(0) + QChar(0xfffd) + "b", "A"}},
