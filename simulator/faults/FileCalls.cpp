@@ -1,5 +1,6 @@
-// The calls of the C library through which Qt and SQLite work on files, each with the faults that
-// the environment asks for. docs/simulator.md lists its variables; they are read at every call.
+// The calls of the C library through which Qt and SQLite work on files, and the one that looks up
+// names, each with the faults that the environment asks for. docs/simulator.md lists its variables;
+// they are read at every call.
 
 #include "simulator/faults/Card.h"
 
@@ -11,6 +12,7 @@
 #include <cstdlib>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <netdb.h>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
@@ -125,6 +127,22 @@ int syncTo(int file, int (*sync)(int))
     S_ISDIR(statusOf(file).st_mode) ? card->folderSynced() : card->fileSynced(path);
     return 0;
 }
+
+// For calls after which nothing lies at name any more; tell lets the card know of that.
+template <class Take, class Tell>
+int takeFrom(const char *name, const Take &take, const Tell &tell)
+{
+    const std::string path = onCard(name);
+    if (isRefused(path))
+        return -1;
+    Card *card = failingCard(path);
+    if (card)
+        card->follow(path);
+    const int result = take();
+    if (card && result == 0)
+        tell(*card, path);
+    return result;
+}
 } // namespace
 
 extern "C" {
@@ -211,31 +229,26 @@ int fdatasync(int file)
 int unlink(const char *name) noexcept
 {
     static const auto next = libraryCall<decltype(unlink)>("unlink");
-    const std::string path = onCard(name);
-    if (isRefused(path))
-        return -1;
-    Card *card = failingCard(path);
-    if (card)
-        card->follow(path);
-    const int result = next(name);
-    if (card && result == 0)
-        card->removed(path);
-    return result;
+    return takeFrom(
+        name, [&] { return next(name); },
+        [](Card &card, const std::string &path) { card.removed(path); });
 }
 
 int renameat2(int fromFolder, const char *from, int toFolder, const char *to,
               unsigned flags) noexcept
 {
     static const auto next = libraryCall<decltype(renameat2)>("renameat2");
-    const std::string path = onCard(from);
-    if (isRefused(path))
-        return -1;
-    Card *card = failingCard(path);
-    if (card)
-        card->follow(path);
-    const int result = next(fromFolder, from, toFolder, to, flags);
-    if (card && result == 0)
-        card->renamed(path, onCard(to));
-    return result;
+    return takeFrom(
+        from, [&] { return next(fromFolder, from, toFolder, to, flags); },
+        [to](Card &card, const std::string &path) { card.renamed(path, onCard(to)); });
+}
+
+int getaddrinfo(const char *name, const char *service, const addrinfo *hints, addrinfo **found)
+{
+    static const auto next = libraryCall<decltype(getaddrinfo)>("getaddrinfo");
+    if (!setting("ZELL_NAMES_MS").empty())
+        std::fputs("the name server is asked\n", stderr);
+    pauseFor("ZELL_NAMES_MS");
+    return next(name, service, hints, found);
 }
 }

@@ -23,6 +23,7 @@ class TestStart : public QObject
         QByteArray calls;              ///< of slots, as the session plug-in takes them
         QByteArray sign;               ///< in the output, that the moment has come
         const char *hanging = nullptr; ///< what of the device is a program that hangs
+        QByteArray url = {};           ///< of the package, where a name stands for the server
     };
 
     struct Program : QProcess
@@ -50,6 +51,8 @@ private slots:
         qputenv("QT_PLUGIN_PATH", ZELL_SESSION);
         qputenv("QT_QPA_GENERIC_PLUGINS", "zellsession");
         QVERIFY(Environment::device().setNetworks({"Studio"}));
+        qputenv("ZELL_NAMES_MS", "8000");
+        qputenv("ASAN_OPTIONS", "verify_asan_link_order=0");
     }
 
     // What must stand before the first screen is built: the database and the scheduler.
@@ -125,6 +128,9 @@ private slots:
              {"downloading", SIGTERM,
               "OptionPage.jump_updateFirmware_page,updateFirmware.download_newVersion",
               "iBytesReceive is"},
+             {"mute name server", SIGTERM,
+              "OptionPage.jump_updateFirmware_page,updateFirmware.download_newVersion",
+              "the name server is asked", nullptr, "http://mute.example/"},
              {"restarting", SIGTERM,
               "OptionPage.jump_setLanguage_page,setLanguagePage.on_button_back_clicked", "hanging",
               "/bin/restartZellQt.sh"}});
@@ -136,7 +142,8 @@ private slots:
         const PseudoTerminal line;
         simulator::FirmwareServer server({firmwareAnswer(simulator::FirmwareFault::Endless)});
         QVERIFY(server.listen());
-        qputenv("ZELL_FIRMWARE_URL", server.url().toLatin1());
+        qputenv("ZELL_FIRMWARE_URL", row.url.isEmpty() ? server.url().toLatin1() : row.url);
+        qputenv("LD_PRELOAD", row.url.isEmpty() ? "" : ZELL_FAULTS);
         if (row.hanging)
             Environment::writeDeviceScript(row.hanging, "echo hanging >&2; exec sleep 8");
         qputenv("ZELL_SESSION_CALLS", row.calls);
