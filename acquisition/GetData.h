@@ -105,5 +105,5 @@ private:
 /// The program-wide scheduler: the first one built, null before and after its life.
 extern GetData *getData;
 
-/// Its spare timer, never started. Made by main; null before and after its life.
+/// Its spare timer, never started. Made by main and owned by the scheduler; null before.
 extern QTimer *randUARTSignal;

@@ -16,9 +16,9 @@ class retryFirmware : public FormPage<Ui::retryFirmware>
 public:
     explicit retryFirmware(QWidget *parent = nullptr);
 
-public slots:
-    void on_button_retry_clicked();
-
 signals:
     void signal_retryDownloadPage();
+
+public slots:
+    void on_button_retry_clicked();
 };

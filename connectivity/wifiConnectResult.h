@@ -9,7 +9,8 @@ class wifiConnectResult;
 /// Tells whether the connection to the Internet succeeded and offers to forget the network or to
 /// try again.
 ///
-/// Until a connection is really made it always shows success, and the offers are only logged.
+/// Until a connection is really made it always shows success, and the offers are only logged. GUI
+/// thread.
 class wifiConnectResult : public FormPage<Ui::wifiConnectResult>
 {
     Q_OBJECT

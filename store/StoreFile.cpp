@@ -19,6 +19,7 @@ struct Identity
     bool operator==(const Identity &) const = default;
 };
 
+// Of the file behind the default connection, of which the program has one, too.
 Identity opened;
 
 Identity identityOf(const QString &fileName)
