@@ -1,6 +1,7 @@
 #include "device/Command.h"
 #include "device/DevicePath.h"
 #include "device/RegularFile.h"
+#include "device/SensorReader.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/TableRows.h"
@@ -9,6 +10,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <poll.h>
+#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -23,6 +25,11 @@ class TestDevice : public QObject
     {
         const char *name, *text;
         CommandEnd end;
+    };
+    struct Driver
+    {
+        const char *name, *milliseconds;
+        QByteArray text = {};
     };
 
 private slots:
@@ -88,11 +95,11 @@ private slots:
 
     void restartEndsTheServedProgram()
     {
-        const pid_t program = fork();
-        if (program == 0) {
-            execlp("sleep", "sleep", "60", nullptr);
-            _exit(1);
-        }
+        // Not by fork(): the signal could meet it before it is another program.
+        char name[] = "sleep", seconds[] = "60";
+        char *arguments[] = {name, seconds, nullptr};
+        pid_t program = 0;
+        QCOMPARE(posix_spawnp(&program, name, nullptr, nullptr, arguments, environ), 0);
         qputenv("SYSTEMD_EXEC_PID", QByteArray::number(program));
         QCOMPARE(runCommand(ZELL_DEPLOYED "/restartZellQt.sh", 5s), CommandEnd::Succeeded);
         int status = 0;
@@ -123,6 +130,26 @@ private slots:
         runCommand("printf '[%s]' " + words + " > words", 1s);
         QCOMPARE(Environment::contentOf("words"), '[' + word + "][]");
         QCOMPARE(shellQuoted("/a-b_c.9/Z"), "/a-b_c.9/Z");
+    }
+
+    // The last test: a driver outlives its readers, and in the end the program.
+    void driverIsLeftToItself_data()
+    {
+        addRows<Driver>({{"hanging", "400"},
+                         {"slow", "20", "reading"},
+                         {"quick", "0", "reading"},
+                         {"hanging at the end", "900"}});
+    }
+
+    void driverIsLeftToItself()
+    {
+        QFETCH(Driver, row);
+        qputenv("ZELL_SLOW_FILE", "sensor");
+        qputenv("ZELL_SLOW_MS", row.milliseconds);
+        QVERIFY(simulator::replaceFile("sensor", "reading"));
+        SensorReader readers[2];
+        for (SensorReader &reader : readers)
+            QCOMPARE(reader.read("sensor"), row.text);
     }
 };
 
