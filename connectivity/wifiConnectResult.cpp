@@ -10,6 +10,8 @@ wifiConnectResult::wifiConnectResult(QWidget *parent)
 {
     ui->setupUi(this);
     show_connect_result();
+    // What does nothing does not light up either.
+    ui->button_back->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(ui->button_forgetFail, &QPushButton::clicked, this,
             &wifiConnectResult::forget_this_wifi);
     connect(ui->button_forgetSuccess, &QPushButton::clicked, this,

@@ -62,11 +62,9 @@ private slots:
     void codesAreReadFromThePage()
     {
         open<connectApp>();
-        const QString address =
-            "HTTP://" + on("label_left3")->property("text").toString().toUpper();
-        const QStringList addresses{address + "/ANDROID", address + "/IOS"};
+        const QString host = on("label_left3")->property("text").toString().toUpper();
+        const QStringList addresses{"HTTP://" + host + "/ANDROID", "HTTP://" + host + "/IOS"};
         QImage picture = page->grab({0, 0, 852, 480}).toImage();
-        QCOMPARE(codesIn(picture), addresses);
         QPainter painter(&picture);
         painter.setCompositionMode(QPainter::CompositionMode_Difference);
         for (const char *name : {"button_appStore", "button_googlePlay"}) {
@@ -74,10 +72,7 @@ private slots:
             code.moveCenter(on(name)->mapTo(page.get(), on(name)->rect().center()));
             const QImage modules = picture.copy(code).scaled(33, 33);
             QCOMPARE(modules.scaled(132, 132), picture.copy(code));
-            const QPoint last = code.bottomRight() - QPoint(15, 15);
-            painter.fillRect(QRect(last, last - QPoint(7, 63)).normalized(), Qt::white);
-            painter.fillRect(QRect(last - QPoint(8, 32), last - QPoint(15, 63)).normalized(),
-                             Qt::white);
+            painter.fillRect(QRect(code.topLeft() + QPoint(100, 52), QSize(16, 48)), Qt::white);
         }
         painter.end();
         QCOMPARE(codesIn(picture), addresses);
@@ -120,11 +115,6 @@ private slots:
         result->show_locate_result();
         QVERIFY(!on("label_noResult"));
         QTRY_COMPARE(bar->maximum(), 14 * 80 - 320);
-        const QImage still = page->grab().toImage();
-        pressAt(page.get(), {400, 360});
-        QVERIFY(page->grab().toImage() != still);
-        releaseAt(page.get(), {400, 360});
-        QTRY_COMPARE(page->grab().toImage(), still);
         drag(page.get(), {400, 400}, {400, 340}, 1);
         QTRY_COMPARE(bar->value(), 60);
         QCOMPARE(on("scrollBar_result")->property("value").toInt(), 60);
