@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDebug>
+#include <QMainWindow>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
@@ -21,8 +22,8 @@ namespace {
 QWidget *screen()
 {
     for (QWidget *window : QApplication::topLevelWidgets()) {
-        // A widget inside a graphics view has no parent either, but stands on another one.
-        if (window->isVisible() && !window->graphicsProxyWidget())
+        // Also while the program ends: Qt has closed it then.
+        if (qobject_cast<QMainWindow *>(window))
             return window;
     }
     return nullptr;
