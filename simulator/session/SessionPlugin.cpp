@@ -5,7 +5,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDebug>
-#include <QMainWindow>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
@@ -22,8 +21,8 @@ namespace {
 QWidget *screen()
 {
     for (QWidget *window : QApplication::topLevelWidgets()) {
-        // Also while the program ends: Qt has closed it then.
-        if (qobject_cast<QMainWindow *>(window))
+        // A widget inside a graphics view has no parent either, but stands on another one.
+        if (window->isVisible() && !window->graphicsProxyWidget())
             return window;
     }
     return nullptr;
@@ -89,7 +88,10 @@ QObject *SessionPlugin::create(const QString &, const QString &)
     auto *session = new QObject;
     const std::chrono::seconds length(qEnvironmentVariableIntValue("ZELL_SESSION_SECONDS"));
     if (length.count() > 0)
-        QTimer::singleShot(length, session, &QCoreApplication::quit);
+        QTimer::singleShot(length, session, [] {
+            savePicture(); // quitting closes the windows first
+            QCoreApplication::quit();
+        });
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, session, savePicture);
 
     if (qEnvironmentVariableIsSet("ZELL_SESSION_WATCH"))
