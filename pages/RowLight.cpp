@@ -36,6 +36,7 @@ QModelIndex RowLight::follow(QEvent *event)
     const QPoint position = static_cast<QMouseEvent *>(event)->position().toPoint();
     if (isPress) {
         fade.stop();
+        isSecondTap = event->type() == QEvent::MouseButtonDblClick;
         pressPosition = position;
         pressed = view->indexAt(position);
         light(pressed);
@@ -45,7 +46,10 @@ QModelIndex RowLight::follow(QEvent *event)
     }
     if (!isRelease)
         return {};
-    fade.start();
+    if (isSecondTap)
+        light({});
+    else
+        fade.start();
     return std::exchange(pressed, QPersistentModelIndex());
 }
 

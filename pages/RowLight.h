@@ -16,7 +16,7 @@ class RowLight : public QObject
     Q_OBJECT
 
 public:
-    /// Leaves a tapped row of @p listView lit for @p afterTap. Owned by @p parent.
+    /// Leaves a row of @p listView that was tapped once lit for @p afterTap. Owned by @p parent.
     RowLight(QAbstractItemView *listView, std::chrono::milliseconds afterTap, QObject *parent);
 
     /// Serves the event filter of whoever watches the viewport of the list, with every event of it.
@@ -32,6 +32,7 @@ private:
 
     QAbstractItemView *view;
     QPoint pressPosition;
+    bool isSecondTap = false;
     QPersistentModelIndex pressed;
     QPersistentModelIndex lit;
     QTimer fade{this};
