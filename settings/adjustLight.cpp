@@ -3,7 +3,9 @@
 #include "pages/SwitchCaptions.h"
 #include "ui_adjustLight.h"
 
+#include <QMouseEvent>
 #include <QPointer>
+#include <QStyle>
 #include <chrono>
 
 using BacklightLevel::Groove;
@@ -12,6 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto sensorInterval = 1s;
+constexpr int handleWidth = 72;
 } // namespace
 
 adjustLight::adjustLight(QWidget *parent)
@@ -21,6 +24,7 @@ adjustLight::adjustLight(QWidget *parent)
     QSlider *slider = ui->slider_light;
     slider->setRange(BacklightLevel::lowest, BacklightLevel::highest);
     slider->setValue(light.level());
+    slider->installEventFilter(this);
     styleSlider(Groove::Normal);
     captionSwitch(ui->checkBox_adjustLight, ui->button_close, ui->button_on);
 
@@ -38,6 +42,19 @@ adjustLight::adjustLight(QWidget *parent)
     });
     connect(&light, &BacklightControl::grooveChanged, slider,
             [this](Groove wanted) { styleSlider(wanted); });
+}
+
+bool adjustLight::eventFilter(QObject *watched, QEvent *event)
+{
+    if (ui && watched == ui->slider_light && event->type() == QEvent::MouseButtonPress) {
+        QSlider *slider = ui->slider_light;
+        const int x = static_cast<QMouseEvent *>(event)->position().toPoint().x();
+        // The slider itself would go one page nearer; under the finger, its handle is dragged on.
+        slider->setValue(QStyle::sliderValueFromPosition(slider->minimum(), slider->maximum(),
+                                                         x - handleWidth / 2,
+                                                         slider->width() - handleWidth));
+    }
+    return FormPage::eventFilter(watched, event);
 }
 
 void adjustLight::check_lightAdjust()

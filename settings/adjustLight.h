@@ -20,6 +20,9 @@ class adjustLight : public FormPage<Ui::adjustLight>
 public:
     explicit adjustLight(QWidget *parent = nullptr);
 
+    /// Lets the handle jump under the finger.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     void on_button_back_clicked() override;
 
 public slots:
