@@ -26,4 +26,43 @@ Rectangle {
             }
         }
     }
+
+    // The other half of the day is out of sight: what leads to it is not.
+    component Step: Item {
+        id: step
+
+        signal tapped()
+
+        anchors.horizontalCenter: parent.left
+        anchors.horizontalCenterOffset: 94
+        width: 96
+        height: 56
+
+        Rectangle {
+            anchors.centerIn: parent
+            width: 72
+            height: 40
+            radius: 18
+            color: "#00e5ff"
+            opacity: touch.pressed ? 0.13 : 0
+        }
+        Image {
+            anchors.centerIn: parent
+            source: "qrc:/resource/images/optionPage/setTime/step.png"
+        }
+        TapHandler {
+            id: touch
+            onTapped: step.tapped()
+        }
+    }
+
+    Step {
+        y: 25
+        onTapped: spinner.stepBack()
+    }
+    Step {
+        y: 133
+        rotation: 180
+        onTapped: spinner.stepOn()
+    }
 }

@@ -230,6 +230,7 @@ private slots:
             {{"tile", "back_default", "option_setTime", "option_setTime", {99, 48}},
              {"arrow", "back_default", "button_back", "button_back", {48, 40}},
              {"language", "jump_setLanguage", "qt_scrollarea_viewport", "listWidget", {99, 99}},
+             {"plate", "jump_resetFactory", "button_confirm", "button_confirm", {250, 36}},
              {"value", "jump_setTime", "frame_TimeZone", "button_timeZone", {660, 44}},
              {"switch", "jump_setTime", "frame_24Hours", "checkBox_24Hours", {99, 9}},
              {"words", "jump_adjustLight", "frame_auto", "checkBox_adjustLight", {607, 66}}});

@@ -81,6 +81,12 @@ private slots:
             QCOMPARE(turned("widget_date"), 0);
             QTest::keyClick(shown("widget_date"), Qt::Key_Up);
             QCOMPARE(turned("widget_date"), 364);
+            for (const int y : {334, 226}) {
+                if (row.is24Hour)
+                    break;
+                tapAt(menu.get(), {756, y});
+                QCOMPARE(turned("widget_amp"), y == 334 ? 1 - half / 12 : half / 12);
+            }
             open("button_back");
         }
         QCOMPARE(log.lines(), QStringList());

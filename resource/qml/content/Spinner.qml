@@ -28,9 +28,26 @@ Image {
         view.positionViewAtIndex(row, PathView.Center)
     }
 
+    // Turns the wheel on to the next row, or back to the one before.
+    function stepOn() { view.incrementCurrentIndex() }
+    function stepBack() { view.decrementCurrentIndex() }
+
+    // The ground of the pages, from full to nothing: rows come and go softly.
+    component SoftEnd: Rectangle {
+        property real solid: 0
+
+        width: spinner.width
+        height: solid + 40
+        gradient: Gradient {
+            GradientStop { position: 0; color: "#212121" }
+            GradientStop { position: solid / height; color: "#212121" }
+            GradientStop { position: 1; color: "#00212121" }
+        }
+    }
+
     clip: true
-    Keys.onUpPressed: view.decrementCurrentIndex()
-    Keys.onDownPressed: view.incrementCurrentIndex()
+    Keys.onUpPressed: stepBack()
+    Keys.onDownPressed: stepOn()
 
     PathView {
         id: view
@@ -53,5 +70,12 @@ Image {
                 y: spinner.middle + view.reach
             }
         }
+    }
+
+    // As far above the current row as the wheel reaches below it.
+    SoftEnd { solid: spinner.itemHeight / 2 }
+    SoftEnd {
+        anchors.bottom: parent.bottom
+        rotation: 180
     }
 }
