@@ -148,8 +148,9 @@ private slots:
         qputenv("ZELL_SLOW_MS", row.milliseconds);
         QVERIFY(simulator::replaceFile("sensor", "reading"));
         SensorReader readers[2];
+        // A literal: the counter of another text would order what both threads do.
         for (SensorReader &reader : readers)
-            QCOMPARE(reader.read("sensor"), row.text);
+            QCOMPARE(reader.read(QStringLiteral("sensor")), row.text);
     }
 };
 
