@@ -1,94 +1,87 @@
 #include "benchmarks/settings/Visitor.h"
 
-#include "benchmarks/support/Screen.h"
+#include "benchmarks/support/Row.h"
 #include "pages/Page.h"
+#include "settings/OptionPage.h"
 #include "settings/QmlApplicationViewer.h"
-#include "testkit/Environment.h"
 
-#include <QCoreApplication>
 #include <QQmlEngine>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
+#include <algorithm>
 
 Visitor::Visitor(Way taken)
     : way(std::move(taken))
 {
     qputenv("ZELL_FIRMWARE_URL", "http://127.0.0.1:1/refused.pkg");
-    if (!Environment::device().setNetworks(QStringList(20, QStringLiteral("Network"))))
-        qFatal("no scanner");
-    showOnScreen(&menu);
+    screen.setNetworks(QStringList(20, QStringLiteral("Network")));
+    screen.open(QStringLiteral("button_option"));
+    screen.open(QStringLiteral("option_setTime"));
+    screen.waitFor(QStringLiteral("the wheels"), [] { return qApp->findChild<QQmlEngine *>(); });
+    screen.open(QStringLiteral("button_back"));
 }
 
 void Visitor::approach()
 {
     while (reached + 1 < way.taps.size())
-        tapNewest(way.taps[reached++]);
+        tap(way.taps[reached++]);
+    last = placeOf(way.taps.back());
+}
+
+void Visitor::open() const
+{
+    screen.click(last);
 }
 
 void Visitor::leave()
 {
-    QWidget *page = menu.childAt(menu.rect().center());
-    while (!qobject_cast<Page *>(page))
-        page = page->parentWidget();
+    screen.finish();
     // The language page's own button would restart the program, too.
-    if (page->objectName() == QLatin1String("setLanguagePage"))
-        emit static_cast<Page *>(page)->signal_backDefaultPage();
+    if (screen.sees(QStringLiteral("setLanguagePage")))
+        emit Screen::visible<Page>()->signal_backDefaultPage();
     else
-        tapNewest(way.back);
-    settle();
-    if (menu.is_allowed_slide())
+        tap(way.back);
+    if (Screen::visible<OptionPage>()->is_allowed_slide())
         reached = 0;
 }
 
-void Visitor::awaitSharedWheels()
+// What a tap opens may be answered over the network first.
+QPoint Visitor::placeOf(const char *name)
 {
-    while (!qApp->findChild<QQmlEngine *>())
-        settle();
-    settle();
+    QWidget *found = nullptr;
+    screen.waitFor(QLatin1String(name), [&] {
+        screen.finish();
+        for (QWidget *widget : screen.screen()->findChildren<QWidget *>(QLatin1String(name)))
+            found = widget->isVisible() ? widget : found;
+        return found;
+    });
+    if (Screen::visible<OptionPage>()->is_allowed_slide())
+        Screen::visible<QScrollArea>()->ensureWidgetVisible(found);
+    screen.finish();
+    return found->mapTo(screen.screen(), found->rect().center());
 }
 
-void Visitor::settle()
+void Visitor::tap(const char *name)
 {
-    do {
-        repaint();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    } while (!wheelsAreOnTheScreen());
+    screen.click(placeOf(name));
+    screen.finish();
 }
 
-void Visitor::tapNewest(const char *name)
-{
-    QWidget *newest = nullptr;
-    while (!newest) {
-        for (auto *widget : menu.findChildren<QWidget *>(QLatin1String(name)))
-            newest = widget->isVisible() ? widget : newest;
-        if (!newest)
-            settle();
-    }
-    if (menu.is_allowed_slide())
-        menu.findChild<QScrollArea *>()->verticalScrollBar()->setValue(newest->y());
-    click(newest);
-    settle();
-}
-
-// Whether the current row of every visible wheel has reached the screen.
 bool Visitor::wheelsAreOnTheScreen() const
 {
-    if (!way.hasWheels)
-        return true;
-    for (const auto *wheel : menu.findChildren<QmlApplicationViewer *>()) {
-        if (wheel->isVisible() && !rowIsOnTheScreen(*wheel))
-            return false;
-    }
-    return true;
+    const auto wheels = screen.screen()->findChildren<QmlApplicationViewer *>();
+    return std::ranges::all_of(wheels, [this](const QWidget *wheel) {
+        return !wheel->isVisible() || rowIsOnTheScreen(*wheel);
+    });
 }
 
 bool Visitor::rowIsOnTheScreen(const QWidget &wheel) const
 {
-    const QRect row(wheel.mapTo(&menu, QPoint()).x(), 270, wheel.width(), 20);
+    const QWidget *window = screen.screen();
+    const QRect row(wheel.mapTo(window, QPoint()).x(), 270, wheel.width(), 20);
     const QImage picture =
-        menu.screen()
-            ->grabWindow(menu.winId(), row.x(), row.y(), row.width(), row.height())
+        window->screen()
+            ->grabWindow(window->winId(), row.x(), row.y(), row.width(), row.height())
             .toImage();
     for (int x = 0; x < picture.width(); ++x) {
         if (picture.pixelColor(x, 10) == QColor(QLatin1String("#00e5ff")))

@@ -1,40 +1,76 @@
 #include "benchmarks/support/Screen.h"
 
-#include <QCoreApplication>
+#include "benchmarks/support/Row.h"
+
 #include <QTest>
+#include <QWindow>
 
-void showOnScreen(QWidget *window)
+namespace {
+constexpr int longestAnimation = 100;
+
+void slideIn(Row &row, Screen &screen, const QString &button)
 {
-    window->setGeometry(0, 0, 854, 480);
-    window->show();
-    if (!QTest::qWaitForWindowExposed(window))
-        qFatal("no window");
+    const QPoint place = screen.placeOf(button);
+    Row::runLoop([&] { screen.click(place); });
+    while (screen.isBusy() && row.isOpen())
+        row.add(row.turn([&screen] { screen.step(); }));
+}
+} // namespace
+
+Screen::Screen()
+{
+    finish();
 }
 
-void repaint()
+void Screen::press(const QPoint &position) const
 {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
+    QTest::mousePress(screen()->windowHandle(), Qt::LeftButton, {}, position);
 }
 
-void pressMouse(QWidget *window, const QPoint &position)
+void Screen::move(const QPoint &position) const
 {
-    QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, position);
+    QTest::mouseMove(screen()->windowHandle(), position);
 }
 
-void moveMouse(QWidget *window, const QPoint &position)
+void Screen::lift(const QPoint &position) const
 {
-    QTest::mouseMove(window->windowHandle(), position);
+    QTest::mouseRelease(screen()->windowHandle(), Qt::LeftButton, {}, position);
 }
 
-void releaseMouse(QWidget *window, const QPoint &position)
+void Screen::click(const QPoint &position) const
 {
-    QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, position);
+    press(position);
+    lift(position);
 }
 
-void click(QWidget *widget)
+void Screen::finish()
 {
-    const QPoint middle = widget->mapTo(widget->window(), widget->rect().center());
-    pressMouse(widget->window(), middle);
-    releaseMouse(widget->window(), middle);
+    Row::runLoop();
+    for (int frame = 0; frame < longestAnimation && isBusy(); ++frame)
+        Row::runLoop([this] { step(); });
+}
+
+void Screen::open(const QString &button)
+{
+    tap(button);
+    finish();
+}
+
+void firstSlideIn(Row &row, const QString &button)
+{
+    while (row.isOpen()) {
+        Screen screen;
+        slideIn(row, screen, button);
+    }
+}
+
+void laterSlideIn(Row &row, const QString &button)
+{
+    Screen screen;
+    screen.open(button);
+    while (row.isOpen()) {
+        screen.open(QStringLiteral("button_back"));
+        slideIn(row, screen, button);
+        screen.finish();
+    }
 }

@@ -1,81 +1,52 @@
 #include "benchmarks/support/Yardstick.h"
 
-#include "benchmarks/support/Median.h"
-
-#include <chrono>
+#include <algorithm>
+#include <benchmark/benchmark.h>
 #include <cstring>
-#include <vector>
+#include <ctime>
 
 namespace {
-using Seconds = std::chrono::duration<double>;
-
 constexpr std::size_t frameBytes = std::size_t{854} * 480 * 4;
-int missedLimits = 0;
+constexpr int warmingCopies = 100;
+constexpr int measuredCopies = 500;
 
-void compare(benchmark::State &state, double figure, double limit)
+Yardstick::Seconds threadTime()
 {
-    state.counters["limit"] = limit;
-    if (figure > limit) {
-        ++missedLimits;
-        state.SetLabel("ABOVE ITS LIMIT");
-    }
-}
-
-void copyFrame()
-{
-    static std::vector<char> source(frameBytes, 1);
-    static std::vector<char> target(frameBytes, 2);
-    benchmark::DoNotOptimize(source.data());
-    std::memcpy(target.data(), source.data(), frameBytes);
-    benchmark::DoNotOptimize(target.data());
-    benchmark::ClobberMemory();
-}
-
-Seconds timeOf(const std::function<void()> &work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::steady_clock::now() - start;
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
 }
 } // namespace
 
-void Yardstick::measure(benchmark::State &state, double limit, const std::function<void()> &work,
-                        const std::function<void()> &prepare)
+Yardstick::Yardstick()
 {
-    std::vector<Seconds> copies;
-    std::vector<Seconds> works;
-    copyFrame();
-    for (auto _ : state) {
-        if (prepare)
-            prepare();
-        copies.push_back(timeOf(copyFrame));
-        works.push_back(timeOf(work));
-        state.SetIterationTime(works.back().count());
-    }
-
-    constexpr double microseconds = 1e6;
-    const double copy = medianOf(std::move(copies)).count() * microseconds;
-    const double effort = medianOf(std::move(works)).count() * microseconds;
-    const double ratio = effort / copy;
-    state.counters["memcpy_us"] = copy;
-    state.counters["work_us"] = effort;
-    state.counters["ratio"] = ratio;
-    compare(state, ratio, limit);
+    const std::vector<char> source(frameBytes, 1);
+    std::vector<char> target(frameBytes, 2);
+    const auto copyFrame = [&] {
+        std::memcpy(target.data(), source.data(), frameBytes);
+        benchmark::ClobberMemory();
+    };
+    for (int copy = 0; copy < warmingCopies; ++copy)
+        copyFrame();
+    for (int copy = 0; copy < measuredCopies; ++copy)
+        copies.push_back(timeOf(copyFrame).count());
 }
 
-void Yardstick::check(benchmark::State &state, double figure, double limit)
+Yardstick::Seconds Yardstick::copy(double share) const
 {
-    state.counters["figure"] = figure;
-    compare(state, figure, limit);
+    return Seconds(quantile(copies, share));
 }
 
-void Yardstick::fail(benchmark::State &state, const char *reason)
+Yardstick::Seconds Yardstick::timeOf(const std::function<void()> &work)
 {
-    ++missedLimits;
-    state.SkipWithError(reason);
+    const Seconds start = threadTime();
+    work();
+    return threadTime() - start;
 }
 
-int Yardstick::missed()
+double Yardstick::quantile(std::vector<double> samples, double share)
 {
-    return missedLimits;
+    const auto wanted = samples.begin() + std::ptrdiff_t(share * double(samples.size() - 1));
+    std::nth_element(samples.begin(), wanted, samples.end());
+    return *wanted;
 }

@@ -1,30 +1,28 @@
 #pragma once
 
-#include <benchmark/benchmark.h>
+#include <chrono>
 #include <functional>
+#include <vector>
 
-/// Measures work in copies of a screen.
-///
-/// Absolute times say little across machines, so every budget of this product is a ratio to one
-/// memcpy of a whole frame (854 x 480 x 4 bytes). The copy is timed in turn with the work, in the
-/// same loop, so that a busy machine slows both alike; the ratio is that of the medians.
+/// What every row of the benchmarks is measured with: CPU time of this thread, and one memcpy of a
+/// whole frame (854 x 480 x 4 bytes), warm, as the unit.
 class Yardstick
 {
 public:
-    /// Runs @p work once per iteration of @p state and reports the counters "work_us", "memcpy_us",
-    /// "ratio" and "limit". A ratio above @p limit marks the benchmark as failed and makes the
-    /// program return 1. @p prepare runs before each round and is not measured. The benchmark must
-    /// be registered with UseManualTime().
-    static void measure(benchmark::State &state, double limit, const std::function<void()> &work,
-                        const std::function<void()> &prepare = {});
+    using Seconds = std::chrono::duration<double>;
 
-    /// Reports a @p figure that is no time, a number of bytes for instance, and its @p limit as
-    /// counters of @p state. A figure above its limit counts as missed, too.
-    static void check(benchmark::State &state, double figure, double limit);
+    /// Measures the copy by itself. Before the first row, whose traces in the caches would count.
+    Yardstick();
 
-    /// Gives a benchmark up that could not measure anything, for @p reason. Counts as missed.
-    static void fail(benchmark::State &state, const char *reason);
+    /// Gives the time that @p share (0 to 1) of the copies do not exceed; the unit is that of half.
+    Seconds copy(double share = 0.5) const;
 
-    /// Counts the benchmarks of this program that have missed their limit.
-    static int missed();
+    /// Returns the CPU time that this thread spends in @p work.
+    static Seconds timeOf(const std::function<void()> &work);
+
+    /// Returns the one that @p share (0 to 1) of @p samples do not exceed; there must be some.
+    static double quantile(std::vector<double> samples, double share);
+
+private:
+    std::vector<double> copies;
 };

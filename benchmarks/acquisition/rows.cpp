@@ -1,5 +1,5 @@
 #include "acquisition/GetData.h"
-#include "benchmarks/support/Yardstick.h"
+#include "benchmarks/support/Row.h"
 #include "shell/Global_cfg.h"
 #include "simulator/SysfsText.h"
 #include "store/ZellDatabase.h"
@@ -7,16 +7,15 @@
 
 namespace {
 // Every second of the life of a device that has run for hours, on the GUI thread.
-void tickOfAllSchedulers(benchmark::State &state)
+void tickOfAllSchedulers(Row &row)
 {
-    constexpr double limit = 80;
     if (!simulator::replaceFile(Environment::device().climateFile(),
                                 simulator::climateText(23.456, 45.678)))
         qFatal("no sensor");
     ZellDatabase database;
     zelldatabase = &database;
-    for (int row = 1; row <= GETDATA_MAX_OBJECTS; ++row)
-        database.InsertDataBaseItem(row, QStringLiteral("TempAndHum"), row, 0);
+    for (int stored = 1; stored <= GETDATA_MAX_OBJECTS; ++stored)
+        database.InsertDataBaseItem(stored, QStringLiteral("TempAndHum"), stored, 0);
 
     const auto tick = [] {
         for (GetData *scheduler : GetData::objects())
@@ -27,7 +26,8 @@ void tickOfAllSchedulers(benchmark::State &state)
         for (GetData *scheduler : GetData::objects())
             scheduler->wait();
     };
-    Yardstick::measure(state, limit, tick, rest);
+    row.turns(tick, rest);
 }
-BENCHMARK(tickOfAllSchedulers)->UseManualTime()->Iterations(300);
+
+const Rows rows({{.name = "tick of 32 schedulers", .measure = tickOfAllSchedulers}});
 } // namespace
