@@ -19,6 +19,7 @@ struct LiveFigures
 
     QString text() const;
     /// Tells whether anything has grown beyond @p level, but for memory, of which the sanitizers
-    /// keep what was freed, and for the threads that schedulers start and end.
+    /// keep what was freed, for the threads that schedulers start and end, and for three
+    /// descriptors.
     bool isAbove(const LiveFigures &level) const;
 };
