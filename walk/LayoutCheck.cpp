@@ -7,15 +7,18 @@
 #include <QGraphicsProxyWidget>
 #include <QGraphicsView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTextDocument>
 #include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
 
 namespace {
 constexpr int smallestTouch = 48;
+constexpr double leastContrast = 4.5;
 
 QRect seenPart(QWidget *widget, QWidget *root)
 {
@@ -47,8 +50,9 @@ void collect(QWidget *root, QList<Placed> &found)
             continue;
         const Placed placed{widget, QRect(widget->mapTo(root, QPoint(0, 0)), widget->size()),
                             seenPart(widget, root)};
-        if (!placed.seen.isEmpty() && isOnTop(placed, root))
-            found.append(placed);
+        if (placed.seen.isEmpty() || !isOnTop(placed, root))
+            continue;
+        found.append(placed);
         if (auto *view = qobject_cast<QGraphicsView *>(widget); view && view->scene()) {
             for (QGraphicsItem *item : view->scene()->items()) {
                 auto *proxy = qgraphicsitem_cast<QGraphicsProxyWidget *>(item);
@@ -119,6 +123,39 @@ QString cutText(const Placed &placed)
         .arg(placed.whole.height());
 }
 
+double luminance(QRgb colour)
+{
+    const auto linear = [](int value) { return std::pow((value / 255.0 + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
+           0.0722 * linear(qBlue(colour));
+}
+
+// Where ink and ground are given: days that are not chosen, the unit beside the read-out, the
+// cities, and what tells of a failed download.
+constexpr std::array givenColours{"QRadioButton radio_day", "QLabel SlideLabel", "QLabel label_2",
+                                  "QLabel label_locateMiddle", "QLabel label_fail"};
+
+// The strongest ink of a text against what most of its place shows.
+QString faintText(const Placed &placed, const QImage &picture)
+{
+    std::vector<double> light;
+    for (int y = placed.seen.top(); y <= placed.seen.bottom(); ++y) {
+        for (int x = placed.seen.left(); x <= placed.seen.right(); ++x)
+            light.push_back(0.05 + luminance(picture.pixel(x, y)));
+    }
+    std::ranges::sort(light);
+    const double ground = light[light.size() / 2];
+    const double contrast = std::max(light.back() / ground, ground / light.front());
+    const QString name = nameOf(placed.widget);
+    if (contrast >= leastContrast || std::ranges::any_of(givenColours, [&](const char *given) {
+            return name.startsWith(given);
+        }))
+        return {};
+    return QStringLiteral("text with a contrast of %1: %2 \"%3\"")
+        .arg(contrast, 0, 'f', 1)
+        .arg(name, textOf(placed));
+}
+
 // Rows and tabs, in the coordinates of the widget that has them.
 QList<QRect> partsOf(const QWidget *widget)
 {
@@ -163,8 +200,12 @@ QStringList layoutFindings(QWidget *window)
     collect(window, widgets);
 
     QStringList findings;
-    for (const Placed &placed : widgets)
+    const QImage picture = window->grab().toImage();
+    for (const Placed &placed : widgets) {
         findings.append(cutText(placed));
+        if (!textOf(placed).isEmpty())
+            findings.append(faintText(placed, picture));
+    }
     findings.removeAll(QString());
     const QList<Placed> touchable = touchPlaces(window);
     for (const Placed &placed : touchable) {
