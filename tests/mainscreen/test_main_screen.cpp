@@ -33,6 +33,12 @@ struct Way
     QString hiddenTile;
 };
 
+struct Slide
+{
+    const char *name;
+    QString button, page;
+};
+
 struct Reading
 {
     const char *name;
@@ -49,6 +55,7 @@ class TestMainScreen : public QObject
 private slots:
     void init()
     {
+        paintings = 0;
         window = std::make_unique<MainWindow>();
         window->setGeometry(0, 0, 854, 480);
         window->show();
@@ -195,6 +202,32 @@ private slots:
         QVERIFY(embedded("frame_center")->isVisible());
     }
 
+    void aPageSlidesInAsItsPicture_data()
+    {
+        addRows<Slide>({{"settings", "button_option", "page_option"},
+                        {"history", "button_history", "page_history"}});
+    }
+
+    void aPageSlidesInAsItsPicture()
+    {
+        QFETCH(Slide, row);
+        auto *page = window->findChild<QWidget *>(row.page);
+        page = page ? page : embedded(row.page);
+        page->findChild<QWidget *>("frame_top")->installEventFilter(this);
+        tap(row.button);
+        QTRY_VERIFY(page->x() < 854);
+        QCOMPARE(paintings, 1);
+        const QRect seen(0, 0, 854 - page->x(), 480);
+        const QImage onItsWay = window->grab(seen.translated(page->x(), 0)).toImage();
+        // A finger sees the page itself, and what it does there.
+        QVERIFY(!page->updatesEnabled());
+        pressAt(window.get(), freeGround);
+        QVERIFY(page->updatesEnabled());
+        releaseAt(window.get(), freeGround);
+        QTRY_COMPARE(page->x(), 0);
+        QCOMPARE(window->grab(seen).toImage(), onItsWay);
+    }
+
     void wifiButtonOpensItsPageOnce()
     {
         const QPoint place = centre("button_wifi");
@@ -280,6 +313,13 @@ private slots:
         QCOMPARE(timeLine->duration(), 500);
     }
 
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        paintings += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
 private:
     /// The widget of that name, of the pages in their order or of the overlay.
     QWidget *embedded(const QString &name) const
@@ -326,6 +366,7 @@ private:
     std::unique_ptr<MainWindow> window;
     MainView *view = nullptr;
     QTimeLine *timeLine = nullptr;
+    int paintings = 0;
 };
 
 ZELL_TEST_MAIN(TestMainScreen)
