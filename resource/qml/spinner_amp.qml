@@ -27,6 +27,14 @@ Rectangle {
         }
     }
 
+    component Stroke: Rectangle {
+        anchors.centerIn: parent
+        width: 11.4
+        height: 1.6
+        color: "#909090"
+        antialiasing: true
+    }
+
     // The other half of the day is out of sight: what leads to it is not.
     component Step: Item {
         id: step
@@ -46,9 +54,14 @@ Rectangle {
             color: "#00e5ff"
             opacity: touch.pressed ? 0.13 : 0
         }
-        Image {
-            anchors.centerIn: parent
-            source: "qrc:/resource/images/optionPage/setTime/step.png"
+        // Drawn and no picture, whose texture Qt's software renderer would leave behind with the page.
+        Stroke {
+            anchors.horizontalCenterOffset: -3.5
+            rotation: -45
+        }
+        Stroke {
+            anchors.horizontalCenterOffset: 3.5
+            rotation: 45
         }
         TapHandler {
             id: touch
