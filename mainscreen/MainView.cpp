@@ -199,8 +199,11 @@ bool MainView::viewportEvent(QEvent *event)
     const bool isUsed = QGraphicsView::viewportEvent(event);
     const bool isPress =
         event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-    if (isPress)
+    if (isPress) {
         isOffPages = !event->isAccepted();
+        // A widget in a scene asks to be painted later, and the release may be waiting already.
+        viewport()->repaint();
+    }
     if (isOffPages && (isPress || event->type() == QEvent::MouseButtonRelease))
         QCoreApplication::sendEvent(readingPages.last(), event);
     return isUsed;

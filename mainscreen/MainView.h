@@ -35,7 +35,8 @@ public:
 protected:
     /// Paints the brush only where the background picture does not lie.
     void drawBackground(QPainter *painter, const QRectF &rect) override;
-    /// Takes swipes where there is no page, beyond the last one, for this page.
+    /// Shows at once what a press has changed, and hands swipes beyond the last page, where there
+    /// is none, to the last one.
     bool viewportEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
