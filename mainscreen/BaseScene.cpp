@@ -19,7 +19,6 @@ namespace {
 const QString smallReading = QStringLiteral("font-size: 48px;");
 constexpr int placesOfATile = 3;
 
-// The picture of the dashes stands lower than a line of text would.
 // Kept[fixed-levels]: no reading changes the text of a level.
 void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> companions)
 {
@@ -33,9 +32,10 @@ void showReading(QLabel *label, int reading, std::initializer_list<QLabel *> com
             label->setStyleSheet(style);
         return;
     }
-    // Kept[unit-stays-hidden]: also when a valid reading follows.
+    // The picture of the dashes stands lower than a line of text would.
     label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     label->setPixmap(QPixmap(QStringLiteral(":/resource/images/mainPage/num/--.png")));
+    // Kept[unit-stays-hidden]: also when a valid reading follows.
     for (QLabel *companion : companions)
         companion->hide();
 }
@@ -89,9 +89,8 @@ void BaseScene::animation_init()
 void BaseScene::change_currentPage(int page)
 {
     if (const QuantityLook *look = lookOf(page)) {
-        ui->frame_pm->setVisible(look->quantity != Quantity::Pm);
-        ui->frame_temperature->setVisible(look->quantity != Quantity::Temperature);
-        ui->frame_humidity->setVisible(look->quantity != Quantity::Humidity);
+        for (const QuantityLook &each : quantities)
+            tileOf(each.quantity)->setVisible(each.quantity != look->quantity);
         // The unit of the caption, not of a tile.
         ui->label_unit->setVisible(look->unitPicture.isEmpty());
         if (look->logo.isEmpty())
@@ -104,10 +103,20 @@ void BaseScene::change_currentPage(int page)
 
 void BaseScene::setLeading(Quantity quantity, bool leads)
 {
-    OptionFrame *tile = quantity == Quantity::Pm            ? ui->frame_pm
-                        : quantity == Quantity::Temperature ? ui->frame_temperature
-                                                            : ui->frame_humidity;
-    tile->setStill(!leads);
+    tileOf(quantity)->setStill(!leads);
+}
+
+OptionFrame *BaseScene::tileOf(Quantity quantity) const
+{
+    switch (quantity) {
+    case Quantity::Pm:
+        return ui->frame_pm;
+    case Quantity::Temperature:
+        return ui->frame_temperature;
+    case Quantity::Humidity:
+        break;
+    }
+    return ui->frame_humidity;
 }
 
 void BaseScene::update_pmData(int value)

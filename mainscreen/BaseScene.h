@@ -8,6 +8,7 @@
 
 class GetData;
 class HistoryPage;
+class OptionFrame;
 namespace Ui {
 class BaseScene;
 }
@@ -73,6 +74,8 @@ private slots:
     void update_humData(int value);
 
 private:
+    OptionFrame *tileOf(Quantity quantity) const;
+
     std::unique_ptr<Ui::BaseScene> ui;
     std::vector<QWidget *> ownGround;
     HistoryPage *historyPage = nullptr;
