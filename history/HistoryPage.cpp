@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QDebug>
+#include <QMouseEvent>
 #include <QProxyStyle>
 #include <QTabBar>
 #include <chrono>
@@ -65,6 +66,7 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
     style->setParent(tabs);
     tabs->setStyle(style);
     tabs->setStyleSheet(pressedTabStyle);
+    tabs->installEventFilter(this);
     for (auto *button : ui->day_group->findChildren<QRadioButton *>())
         button->setStyleSheet(dayStyle + pressedDayStyle);
     ui->day_group->hide();
@@ -85,6 +87,20 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
 }
 
 HistoryPage::~HistoryPage() = default;
+
+bool HistoryPage::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *tabs = qobject_cast<QTabBar *>(watched);
+    const bool isMove = tabs && event->type() == QEvent::MouseMove;
+    const auto *move = isMove ? static_cast<QMouseEvent *>(event) : nullptr;
+    // Released here it would choose nothing, but it would keep its light.
+    if (move && !tabs->rect().contains(move->position().toPoint())) {
+        QMouseEvent away(QEvent::MouseButtonRelease, move->position(), move->globalPosition(),
+                         Qt::LeftButton, Qt::NoButton, move->modifiers());
+        QCoreApplication::sendEvent(tabs, &away);
+    }
+    return QWidget::eventFilter(watched, event);
+}
 
 void HistoryPage::showing(int newQuantity)
 {

@@ -39,6 +39,7 @@ signals:
     void signal_backDefaultPage();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

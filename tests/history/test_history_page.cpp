@@ -42,6 +42,11 @@ private slots:
         QCOMPARE(page->grab().toImage().pixelColor(640, 22), QColor(0, 30, 33));
         cancelAt(page.get(), tab7days);
         QCOMPARE(page->grab().toImage(), before);
+        // So is what the finger leaves.
+        pressAt(page.get(), tab7days);
+        moveTo(page.get(), {300, 300});
+        QCOMPARE(page->grab().toImage(), before);
+        releaseAt(page.get(), {300, 300});
         tapAt(page.get(), tab7days);
         for (const int day : {6, 3}) {
             const QPoint place(40, 112 + 48 * day);
