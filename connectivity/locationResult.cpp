@@ -56,6 +56,7 @@ void locationResult::delete_searchLocation()
     if (!ui)
         return;
     ui->lineEdit_location->clear();
+    ui->lineEdit_location->setPlaceholderText(tr("城市"));
     caret->show();
     showPlaces(false);
 }

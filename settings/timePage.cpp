@@ -52,4 +52,7 @@ void timePage::selectFinish(bool finish)
         return;
     ui->pushButton_start->setStyleSheet(tabStyle(!finish));
     ui->pushButton_finish->setStyleSheet(tabStyle(finish));
+    // Chosen already, it has nothing to answer.
+    ui->pushButton_start->setAttribute(Qt::WA_TransparentForMouseEvents, !finish);
+    ui->pushButton_finish->setAttribute(Qt::WA_TransparentForMouseEvents, finish);
 }

@@ -51,8 +51,9 @@ Rectangle {
             width: 72
             height: 40
             radius: 18
-            color: "#00e5ff"
-            opacity: touch.pressed ? 0.13 : 0
+            color: "#2100e5ff"
+            border { width: 1; color: "#8000e5ff" }
+            visible: touch.pressed
         }
         // Drawn and no picture, whose texture Qt's software renderer would leave behind with the page.
         Stroke {
