@@ -130,8 +130,8 @@ double luminance(QRgb colour)
            0.0722 * linear(qBlue(colour));
 }
 
-// Where ink and ground are given: days that are not chosen, the unit beside the read-out, the
-// cities, and what tells of a failed download.
+// Where ink and ground are given: days that are not chosen, the read-out with its day and unit,
+// the cities, and what tells of a failed download.
 constexpr std::array givenColours{"QRadioButton radio_day", "QLabel SlideLabel", "QLabel label_2",
                                   "QLabel label_locateMiddle", "QLabel label_fail"};
 
