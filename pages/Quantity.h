@@ -13,7 +13,7 @@ enum class Quantity { Pm = 1, Temperature, Humidity };
 struct QuantityLook
 {
     Quantity quantity = Quantity::Pm;
-    const char *title; ///< in the language of the sources, see titleOf()
+    const char *title = ""; ///< in the language of the sources, see titleOf()
     QStringView unit;
     QStringView sign;        ///< a picture in the accent colour
     QStringView logo;        ///< a picture in white; none where the title serves
