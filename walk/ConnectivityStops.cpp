@@ -67,12 +67,29 @@ std::shared_ptr<simulator::FirmwareServer> firmwareServer()
     qputenv("ZELL_FIRMWARE_URL", server->url().toLatin1());
     return server;
 }
+
+std::vector<Stop> firmwareStops()
+{
+    const Step cutOff = [server = firmwareServer()](Walk &) { server->dropClients(); };
+    return {
+        {"firmware-idle", {back, opening("option_updateFirmware")}},
+        {"firmware-found", {tapping("button_checkUpdate")}},
+        {"firmware-downloading", {tapping("button_update"), awaitProgress}},
+        {"firmware-downloading-begun", {reporting(1, 1000)}},
+        {"firmware-downloading-done", {reporting(1, 1)}},
+        {"firmware-retry", {cutOff, seeing("button_retry")}},
+        {"firmware-after-retry", {tapping("button_retry")}},
+        {"firmware-install",
+         {back, opening("option_updateFirmware"), tapping("button_checkUpdate"),
+          tapping("button_update"), seeing("label_installInfo")}},
+    };
+}
 } // namespace
 
 std::vector<Stop> connectivityStops()
 {
-    const Step cutOff = [server = firmwareServer()](Walk &) { server->dropClients(); };
-    return {
+    const std::vector<Stop> firmware = firmwareStops();
+    std::vector<Stop> stops{
         {"wifi-list", {back, opening("option_setWifi")}},
         {"wifi-list-connecting",
          {tappingAt(firstNetwork), seeing("button_enter"), back, chooseNetworkMeanwhile,
@@ -100,16 +117,7 @@ std::vector<Stop> connectivityStops()
         {"location-result", {tapping("button_enter")}},
         {"location-no-result", {tapping("button_deleteLocation")}},
         {"location-search-again", {back}},
-
-        {"firmware-idle", {back, opening("option_updateFirmware")}},
-        {"firmware-found", {tapping("button_checkUpdate")}},
-        {"firmware-downloading", {tapping("button_update"), awaitProgress}},
-        {"firmware-downloading-begun", {reporting(1, 1000)}},
-        {"firmware-downloading-done", {reporting(1, 1)}},
-        {"firmware-retry", {cutOff, seeing("button_retry")}},
-        {"firmware-after-retry", {tapping("button_retry")}},
-        {"firmware-install",
-         {back, opening("option_updateFirmware"), tapping("button_checkUpdate"),
-          tapping("button_update"), seeing("label_installInfo")}},
     };
+    stops.insert(stops.end(), firmware.begin(), firmware.end());
+    return stops;
 }
