@@ -22,7 +22,7 @@ int readField(const QString &text, int position, int (*valid)(int))
 
 int wholeUnits(int thousandths)
 {
-    // Kept[round-below-zero]: towards zero there, half up above.
+    // Kept[round-below-zero]: half a unit is added there, too, before the fraction is cut off.
     return int((qint64(thousandths) + 500) / 1000);
 }
 

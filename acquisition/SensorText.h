@@ -12,7 +12,8 @@ struct TempHumReading
     int humidity;
 };
 
-/// Rounds @p thousandths to whole units: half up for positive values, towards zero behind that.
+/// Rounds @p thousandths to whole units: half a unit is added and the fraction cut off. So
+/// positive values are rounded half up, and -5.0 gives -4.
 int wholeUnits(int thousandths);
 
 /// Gives @p temperature in °C where it lies in -40 ... 100, otherwise invalidReading.

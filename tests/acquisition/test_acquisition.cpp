@@ -87,6 +87,7 @@ private slots:
     {
         addRows<Text>({{"half a unit", "temp = 25499, humidity = 25500\n", 25, 26},
                        {"below zero", "temp = -5600, humidity = -1500", -5, -1},
+                       {"whole below zero", "temp = -5000, humidity = -1000", -4, 0},
                        {"highest", "temp = 99999, humidity =  5499", 100, 5},
                        {"other labels", "°C   = 21000, Feuchte% = 40000", 21, 40},
                        {"no number", "temp = 2x456, humidity = 45678", 9999, 46},
