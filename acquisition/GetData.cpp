@@ -90,7 +90,7 @@ const QList<GetData *> &GetData::objects()
     return all;
 }
 
-// Kept[empty-thread]: each slot starts a thread that ends at once.
+// Kept[empty-thread]: each refresh and sampling slot starts a thread that ends at once.
 void GetData::run() {}
 
 // Kept[spare-slots]: like the slots for one field and for random values, it serves nobody.
