@@ -3,12 +3,15 @@
 #include "simulator/FirmwareServer.h"
 #include "simulator/NotifySocket.h"
 #include "testkit/CallSlot.h"
+#include "testkit/PictureCompare.h"
 #include "testkit/PseudoTerminal.h"
 #include "testkit/TableRows.h"
+#include "walk/Languages.h"
 
 #include <QProcess>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QTemporaryFile>
 #include <QThread>
 #include <csignal>
 
@@ -68,6 +71,40 @@ private slots:
             QVERIFY(before.contains(known));
             QCOMPARE(Environment::contentOf(supply), "0");
         }
+    }
+
+    void speaksTheStoredLanguage()
+    {
+        const Language language(QStringLiteral("ZH_COMPLEX.qm"));
+        const QTemporaryDir folder;
+        {
+            const InLanguage spoken(language);
+            MainWindow window;
+            window.show();
+            window.jump_toOption();
+            QTRY_COMPARE(window.findChild<QStackedWidget *>("stackedWidget")->currentIndex(), 2);
+            QVERIFY(window.grab().save(folder.filePath("menu.png")));
+        }
+        QTemporaryFile frame;
+        QVERIFY(frame.open() && frame.resize(qint64(854) * 480 * 4));
+        qputenv("QT_QPA_PLATFORM", "linuxfb:tty=/dev/null:nographicsmodeswitch:fb=" +
+                                       QFile::encodeName(frame.fileName()));
+        qputenv("LD_PRELOAD", ZELL_FRAME_BUFFER);
+        qputenv("ZELL_SESSION_CALLS", "MainWindow.jump_toOption");
+        language.store();
+        Program program;
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qunsetenv("LD_PRELOAD");
+
+        QString difference;
+        const auto agrees = [&] {
+            const QByteArray dots = Environment::contentOf(frame.fileName());
+            const QImage seen(reinterpret_cast<const uchar *>(dots.constData()), 854, 480,
+                              QImage::Format_RGB32);
+            difference = pictureDifference(seen, folder.path(), QStringLiteral("menu.png"));
+            return difference.isEmpty();
+        };
+        QVERIFY2(QTest::qWaitFor(agrees, 20000), qPrintable(difference));
     }
 
     void beatComesFromTheEventLoop()
