@@ -9,6 +9,7 @@
 #include "testkit/Touch.h"
 
 #include <QDeadlineTimer>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTimer>
 #include <csignal>
@@ -106,11 +107,17 @@ private slots:
         QCOMPARE(slider->value(), 69);
         moveTo(page.get(), handle + QPoint(400, 0));
         releaseAt(page.get(), handle + QPoint(400, 0));
-        QCOMPARE(slider->styleSheet().count("sliderBackground2.png"), 1);
+        QCOMPARE(groove(), (QStringList{"Front", "Background2"}));
         QVERIFY(slider->styleSheet().contains("border: -36px solid #212121;"));
         setLight("90");
         page->cause_lightUpdate();
         QCOMPARE(levels(), "69\n255\n257\n");
+        slider->setValue(10); // neither end nor middle
+        QCOMPARE(groove(), (QStringList{"Front", "Background2"}));
+        slider->setValue(11);
+        QCOMPARE(groove(), (QStringList{"Front", "Background"}));
+        slider->setValue(7);
+        QCOMPARE(groove(), (QStringList{"Background2", "Background"}));
     }
 
     void pageLeftBehindFollowsTheSensorAndRepeatsNothing()
@@ -239,6 +246,13 @@ private slots:
 
 private:
     QByteArray levels() const { return Environment::contentOf(device.backlightLog()); }
+    // The pictures of the groove, left and right of the handle.
+    QStringList groove() const
+    {
+        static const QRegularExpression sheet(
+            "sub-page.*/slider(\\w+)\\.png.*add-page.*/slider(\\w+)\\.png");
+        return sheet.match(slider->styleSheet()).capturedTexts().mid(1);
+    }
     void setLight(const QByteArray &text) const
     {
         simulator::replaceFile(device.lightFile(), text);
