@@ -21,6 +21,7 @@ struct Identity
 
 // Of the file behind the default connection, of which the program has one, too.
 Identity opened;
+int openings = 0;
 
 Identity identityOf(const QString &fileName)
 {
@@ -88,7 +89,13 @@ bool openStore(const QString &fileName)
         return false;
     waitForLock(lockLimit);
     opened = identityOf(fileName);
+    ++openings;
     return true;
+}
+
+int storeOpenings()
+{
+    return openings;
 }
 
 void closeStore()

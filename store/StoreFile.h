@@ -21,6 +21,9 @@ QSqlDatabase storeConnection();
 /// set aside and never opened. False where the connection is closed then.
 bool openStore(const QString &fileName);
 
+/// Counts how often the connection was opened: what was learnt on one says nothing about the next.
+int storeOpenings();
+
 /// Closes the default connection, by which everything comes to lie in the one file.
 void closeStore();
 

@@ -8,7 +8,9 @@
 #include <QDebug>
 #include <QFile>
 #include <QSqlError>
+#include <QSqlRecord>
 #include <QVariant>
+#include <limits>
 
 using namespace std::chrono_literals;
 
@@ -116,10 +118,11 @@ void ZellDatabase::CreateDataBaseTable(const QString &statement)
 void ZellDatabase::DeleteDataBaseTimeItem(const QString &tableName, long now)
 {
     const Table *table = findTable(tableName);
-    if (table && table->isMain) {
-        change(QStringLiteral("delete from %1 where UnixSec <= ?").arg(table->name),
-               {quint32(retentionCutoff(now))});
-    }
+    const auto cutoff = quint32(retentionCutoff(now));
+    if (!table || !table->isMain || rowsOf(tableName).endAfter(cutoff))
+        return;
+    if (change(QStringLiteral("delete from %1 where UnixSec <= ?").arg(tableName), {cutoff}))
+        knownRows[tableName].drop(cutoff);
 }
 
 void ZellDatabase::DeleteDataBaseItem(const QString & /*tableName*/, const QString & /*column*/,
@@ -189,6 +192,8 @@ bool ZellDatabase::change(const QString &statement, const QVariantList &values)
     if (!restAfterLock.hasExpired())
         return false;
     QSqlQuery query = execute(statement, values);
+    if (query.isActive())
+        fileState.changes += query.numRowsAffected();
     if (refusalOf(query) == Refusal::Passing || refusalOf(query) == Refusal::Unusable)
         query = changeAnew(statement, values);
     if (refusalOf(query) != Refusal::Unusable)
@@ -220,21 +225,59 @@ bool ZellDatabase::makeTables()
     return true;
 }
 
+// All that is known is forgotten where the file may have been changed by others: by another
+// program, or by another statement on this connection.
+KnownRows &ZellDatabase::rowsOf(const QString &tableName)
+{
+    QSqlQuery query = execute(QStringLiteral("select data_version, schema_version, total_changes() "
+                                             "from pragma_data_version, pragma_schema_version"));
+    FileState now;
+    const bool isKnown = query.next();
+    if (isKnown)
+        now = {storeOpenings(), query.value(0).toLongLong(), query.value(1).toLongLong(),
+               query.value(2).toLongLong()};
+    if (!isKnown || now != fileState)
+        knownRows.clear();
+    fileState = now;
+    return knownRows[tableName];
+}
+
+// Reads the values of the row stored last, the first of its second. None where it is missing or
+// unreadable.
+QVariantList ZellDatabase::readLastRow(const QString &tableName, const QString &columns)
+{
+    const qint64 time = GetData::iLastUnixSec;
+    // In one pass.
+    QSqlQuery rows = execute(QStringLiteral("select min(rowid) filter (where UnixSec = %2), "
+                                            "min(UnixSec) filter (where UnixSec > %2) "
+                                            "from %1 where UnixSec >= %2")
+                                 .arg(tableName)
+                                 .arg(time));
+    if (!rows.next())
+        return {};
+    QVariantList values;
+    if (!rows.isNull(0)) {
+        QSqlQuery last =
+            execute(QStringLiteral("select %1 from %2 where rowid = ?").arg(columns, tableName),
+                    {rows.value(0)});
+        if (!last.next())
+            return {};
+        for (int column = 0; column < last.record().count(); ++column)
+            values.append(last.value(column).toInt());
+    }
+    bool isNumber = false;
+    const qint64 next = rows.value(1).toLongLong(&isNumber);
+    knownRows[tableName].read(time, values, isNumber ? next : std::numeric_limits<qint64>::max());
+    return values;
+}
+
 // Whether the row stored last holds its values. One that is missing or unreadable differs.
 bool ZellDatabase::repeatsLastRow(const Row &row)
 {
     const Table &table = *findTable(row.tableName);
-    const QVariantList values = valuesFor(table, row.value, row.value2);
-    QSqlQuery last = execute(QStringLiteral("select %1 From %2 where UnixSec = %3")
-                                 .arg(table.columns, table.name)
-                                 .arg(GetData::iLastUnixSec));
-    if (!last.next())
-        return false;
-    for (int column = 0; column < values.size(); ++column) {
-        if (last.value(column).toInt() != values[column].toInt())
-            return false;
-    }
-    return true;
+    const std::optional<QVariantList> last = rowsOf(table.name).at(GetData::iLastUnixSec);
+    return (last ? *last : readLastRow(table.name, table.columns)) ==
+           valuesFor(table, row.value, row.value2);
 }
 
 bool ZellDatabase::insert(const Row &row)
@@ -242,6 +285,7 @@ bool ZellDatabase::insert(const Row &row)
     const Table &table = *findTable(row.tableName);
     if (!change(insertStatement(table), rowFor(table, row.time, row.value, row.value2)))
         return false;
+    knownRows[table.name].add(quint32(row.time), valuesFor(table, row.value, row.value2));
     GetData::iLastUnixSec = row.time;
     return true;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "store/KnownRows.h"
+
 #include <QDeadlineTimer>
+#include <QHash>
 #include <QSqlQuery>
 #include <QString>
 #include <QThread>
@@ -83,13 +86,25 @@ private:
     bool change(const QString &statement, const QVariantList &values);
     QSqlQuery changeAnew(const QString &statement, const QVariantList &values);
     bool makeTables();
+    KnownRows &rowsOf(const QString &tableName);
+    QVariantList readLastRow(const QString &tableName, const QString &columns);
     bool repeatsLastRow(const Row &row);
     bool insert(const Row &row);
     bool storeWaiting();
     void letRowsWait();
     bool networkAvailable();
 
+    // What the file was like when its rows were known, this store's own writes included.
+    struct FileState
+    {
+        int opening = 0;
+        qint64 ofOthers = 0, ofTables = 0, changes = 0;
+        bool operator==(const FileState &) const = default;
+    };
+
     std::vector<std::unique_ptr<GetData>> schedulers;
+    FileState fileState;
+    QHash<QString, KnownRows> knownRows;
     std::deque<Row> waiting;
     int lostRows = 0;
     // Runs while rows wait.

@@ -1,5 +1,6 @@
 #include "acquisition/GetData.h"
 #include "store/StoreFile.h"
+#include "store/StoreRules.h"
 #include "store/ZellDatabase.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
@@ -41,11 +42,42 @@ class TestZellDatabase : public QObject
     {
         const char *name, *variable;
     };
+    struct Others
+    {
+        const char *name, *connection = "";
+        bool isReplaced = false;
+    };
 
     static QString read(const QString &statement, const QSqlDatabase &from = storeConnection())
     {
         QSqlQuery query(statement, from);
         return query.next() ? query.value(0).toString() : QString();
+    }
+
+    // What others write: rows of any time, or of none, and changes of those that are there.
+    QString otherStatement(time_t time)
+    {
+        static constexpr const char *statements[] = {
+            "insert into TempAndHum (UnixSec, Temp) values (%1.5, 1)",
+            "insert into TempAndHum (UnixSec, Temp) values ('odd', 1), (null, 1)",
+            "update TempAndHum set Temp = 1 - Temp where UnixSec = %1",
+            "delete from TempAndHum where UnixSec >= %1",
+            "drop table TempAndHum",
+            "insert into TempAndHum (UnixSec, Temp) values (%1, 1)",
+        };
+        return QString(statements[random.bounded(6)])
+            .arg(random.bounded(2) ? time : time - random.bounded(-700000, 700000));
+    }
+
+    // Puts another file in place of the store's: its only row is to be dropped.
+    static QString replaceFile(QSqlDatabase &others, time_t now)
+    {
+        QFile::remove("ZellQt4.db");
+        others.close();
+        others.open();
+        for (const QString &statement : tableStatements())
+            read(statement, others);
+        return QString("insert into TempAndHum (UnixSec, Temp) values (%1, 1)").arg(now - 700000);
     }
 
     // A device that stores row after row and acknowledges each, until its process ends.
@@ -159,6 +191,63 @@ private slots:
                 read(QString("insert into %1 (UnixSec) values (%2)").arg(table).arg(time));
             database->DeleteDataBaseTimeItem(table, long(row.now));
             QCOMPARE(read("select count(*) from " + table), table.endsWith("Fi") ? "3" : "2");
+        }
+    }
+
+    void sameAsReadingTheWholeTable_data()
+    {
+        addRows<Others>({{"nobody else"},
+                         {"another program", "others"},
+                         {"another statement", QSqlDatabase::defaultConnection},
+                         {"file replaced", "others", true}});
+    }
+
+    void sameAsReadingTheWholeTable()
+    {
+        QFETCH(Others, row);
+        auto plain = QSqlDatabase::addDatabase("QSQLITE", "plain");
+        plain.setDatabaseName(":memory:");
+        auto others = QSqlDatabase::addDatabase("QSQLITE", "others");
+        others.setDatabaseName("ZellQt4.db");
+        QVERIFY(plain.open());
+        for (const QString &statement : tableStatements())
+            read(statement, plain);
+        time_t now = noon;
+        time_t last = 0;
+        // What lies there then is no file of its own making.
+        replaceFile(others, now);
+        database->openMeasurements();
+        database->DeleteDataBaseTimeItem("TempAndHum", now);
+        for (int step = 0; step < 400; ++step) {
+            QString statement;
+            if (row.isReplaced && step % 20 == 0) {
+                statement = replaceFile(others, now);
+                read("delete from TempAndHum", plain);
+            } else if (*row.connection && random.bounded(4) == 0) {
+                statement = otherStatement(random.bounded(2) ? now : last);
+            }
+            read(statement, QSqlDatabase::database(row.connection));
+            read(statement.replace("drop table", "delete from"), plain);
+            database->openMeasurements();
+            const int value = random.bounded(2);
+            database->DeleteDataBaseTimeItem("TempAndHum", now);
+            database->InsertDataBaseItem(now, "TempAndHum", value, 0);
+            read(QString("delete from TempAndHum where UnixSec <= %1").arg(retentionCutoff(now)),
+                 plain);
+            if (read(QString("select Temp from TempAndHum where UnixSec = %1").arg(last), plain) !=
+                QString::number(value)) {
+                read(QString("insert into TempAndHum values (%1, '', %2, 0)").arg(now).arg(value),
+                     plain);
+                last = now;
+            }
+            const QString rows =
+                "select group_concat(ifnull(UnixSec, '') || '/' || Temp) from TempAndHum";
+            QCOMPARE(read(rows), read(rows, plain));
+            // Another table's row is the last one then, one of a second that this table may have.
+            if (step % 4 == 0)
+                database->InsertDataBaseItem(last = now, "PM2_5", 0, step);
+            now += random.bounded(8) ? random.bounded(4)
+                                     : random.bounded(-16, 18) * (random.bounded(2) ? 1 : 40000);
         }
     }
 
