@@ -42,10 +42,13 @@ void Blackboard::setValueMap(const QMap<int, float> &map, int newType)
 {
     type = newType;
     valueMap = map;
-    const auto removed = valueMap.removeIf(
-        [](QMap<int, float>::iterator reading) { return std::isnan(reading.value()); });
-    if (removed > 0)
+    const auto isNoNumber = [](float value) { return std::isnan(value); };
+    // Asked first: to remove nothing would copy the whole series.
+    if (std::ranges::any_of(map, isNoNumber)) {
+        const auto removed =
+            valueMap.removeIf([&](auto reading) { return isNoNumber(reading.value()); });
         qDebug() << "Blackboard: left out" << removed << "readings that are no numbers";
+    }
     ranges = valueRangesOf(valueMap, LocalTime::startOfDay(clock()), rangeDivisions);
     ++series;
     valueScale = {};
@@ -156,12 +159,14 @@ bool Blackboard::refreshStillPart(const ChartFrame &frame)
 {
     if (!stillPart.isNull() && frame == stillFrame)
         return false;
-    stillPart = QPixmap(frame.size * frame.pixelRatio);
+    stillPart = QImage(frame.size * frame.pixelRatio, QImage::Format_ARGB32_Premultiplied);
     stillPart.setDevicePixelRatio(frame.pixelRatio);
     stillPart.fill(Qt::transparent);
     stillFrame = frame;
     QPainter painter(&stillPart);
-    ChartPainter(&painter, frame, &gc()).drawStillPart(valueMap);
+    ChartPainter(&painter, frame, &gc()).drawAxes();
+    painter.end();
+    dots.draw(&stillPart, frame, valueMap, &gc());
     return true;
 }
 
@@ -183,7 +188,7 @@ void Blackboard::paintEvent(QPaintEvent *event)
 
     paintedMarker = {};
     QPainter painter(this);
-    painter.drawPixmap(0, 0, stillPart);
+    painter.drawImage(0, 0, stillPart);
     if (touchX <= 0.0F)
         return;
     const int x = searchNearestScreenX(touchX, false);

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "history/ChartPainter.h"
+#include "history/ChartDots.h"
 #include "history/ChartScale.h"
 #include "history/NearestDot.h"
 #include "history/ValueRange.h"
 
 #include <QMap>
-#include <QPixmap>
 #include <QWidget>
 #include <utility>
 
@@ -116,7 +115,8 @@ private:
     QList<int> screenXs;
     ValueRanges ranges;
     float touchX = -1;
-    QPixmap stillPart;
+    QImage stillPart;
+    ChartDots dots;
     ChartFrame stillFrame;
     quint64 series = 0;
     qint64 paintedToday = 0;

@@ -9,10 +9,6 @@ constexpr int labelSize = 18;
 constexpr int hourLabelsBelowPlot = 28;
 constexpr int valueLabelsRightOfPlot = 20;
 constexpr int valueLabelsBelowLine = 10;
-constexpr int ownDotSize = 16;
-constexpr int otherDotSize = 4;
-constexpr int ownDotAlpha = 204;
-constexpr int otherDotAlpha = 76;
 constexpr int gridAlpha = 25;
 constexpr int markerLineWidth = 2;
 constexpr int markerLineFadesAboveFoot = 50;
@@ -53,11 +49,10 @@ ChartPainter::ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGen
     painter->setFont(font);
 }
 
-void ChartPainter::drawStillPart(const QMap<int, float> &readings)
+void ChartPainter::drawAxes()
 {
     drawHourAxis();
     drawValueAxis();
-    drawReadings(readings);
 }
 
 void ChartPainter::drawHourAxis()
@@ -96,42 +91,6 @@ void ChartPainter::drawValueAxis()
         painter->setPen(lines);
         painter->drawLine(QPointF(0, tick.y), QPointF(width * frame.revealed, tick.y));
     }
-}
-
-void ChartPainter::drawReadings(const QMap<int, float> &readings)
-{
-    // A widget too narrow for its margins has no time axis to place a dot on.
-    if (frame.times.pxPerHour <= 0.0F)
-        return;
-    QList<QPointF> ownDays;
-    QList<QPointF> otherDays;
-    for (auto reading = readings.cbegin(); reading != readings.cend(); ++reading) {
-        const QPointF point(frame.times.toX(reading.key()),
-                            ChartScale::truncated(frame.values.toY(reading.value())));
-        (frame.days.contains(reading.key()) ? ownDays : otherDays).append(point);
-    }
-
-    QLinearGradient scale(0, 0, 0, frame.values.bottom);
-    QColor color = colors->colorOfPm(frame.range.max);
-    color.setAlpha(ownDotAlpha);
-    scale.setColorAt(0, color);
-    color = colors->colorOfPm(frame.range.min);
-    color.setAlpha(ownDotAlpha);
-    scale.setColorAt(1, color);
-    painter->setPen(QPen(scale, ownDotSize, Qt::SolidLine, Qt::RoundCap));
-    drawDots(painter, ownDays);
-    if (frame.otherDays) {
-        painter->setPen(
-            QPen(QColor(255, 255, 255, otherDotAlpha), otherDotSize, Qt::SolidLine, Qt::RoundCap));
-        drawDots(painter, otherDays);
-    }
-}
-
-void ChartPainter::drawDots(QPainter *on, const QList<QPointF> &points)
-{
-    // One by one: drawn together, dots that overlap would melt into one shape.
-    for (const QPointF &point : points)
-        on->drawPoint(point);
 }
 
 void ChartPainter::drawMarker(const ChartMarker &marker)

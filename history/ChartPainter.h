@@ -42,8 +42,8 @@ public:
     /// Paints on @p target, which must be active as long as this object is used.
     ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGenerator *scale);
 
-    /// Draws the axes, their grid, and a dot for each of @p readings.
-    void drawStillPart(const QMap<int, float> &readings);
+    /// Draws the axes and their grid.
+    void drawAxes();
 
     /// Draws the line and the ring at a touched reading.
     void drawMarker(const ChartMarker &marker);
@@ -55,8 +55,6 @@ public:
 private:
     void drawHourAxis();
     void drawValueAxis();
-    void drawReadings(const QMap<int, float> &readings);
-    void drawDots(QPainter *on, const QList<QPointF> &points);
     QPen labelPen() const;
     QPen gridPen(QPointF from, QPointF to) const;
 

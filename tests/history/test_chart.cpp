@@ -1,11 +1,13 @@
 #include "history/Blackboard.h"
 #include "history/DemonstrationSeries.h"
+#include "history/DotStamps.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
 #include <QPaintEvent>
+#include <QPainter>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QSignalSpy>
@@ -86,6 +88,14 @@ struct Touch
     float x;
     int time;
     QString unit;
+};
+
+struct Dots
+{
+    const char *name;
+    int size;
+    QBrush brush;
+    double pixelRatio = 1;
 };
 
 struct Series
@@ -274,6 +284,40 @@ private slots:
         board.mode = 1;
         QCOMPARE(board.getDayTimeRange(6), Days(today - 6 * day, today - 5 * day));
         QCOMPARE(board.getDayTimeRange(7), Days(today - 6 * day, today + day));
+    }
+
+    void dotsAreThoseOfThePainter_data()
+    {
+        QLinearGradient rainbow(0, 0, 0, 70);
+        rainbow.setColorAt(0, QColor(255, 90, 0, 204));
+        rainbow.setColorAt(1, QColor(0, 200, 255, 204));
+        addRows<Dots>({{"in colours of their rows", 16, rainbow},
+                       {"small and faint", 4, QColor(255, 255, 255, 76)},
+                       {"on a fine screen", 16, rainbow, 2}});
+    }
+
+    void dotsAreThoseOfThePainter()
+    {
+        QFETCH(Dots, row);
+        // Over one another, over the edges and beside the picture; the second time stamps are kept.
+        QRandomGenerator random(7);
+        QList<QPointF> centers;
+        for (int dot = 0; dot < 300; ++dot)
+            centers.append({float(random.bounded(500)) * 0.3137F - 30, random.bounded(130) - 30.0});
+        QImage drawn(QSize(97, 71) * row.pixelRatio, QImage::Format_ARGB32_Premultiplied);
+        drawn.setDevicePixelRatio(row.pixelRatio);
+        drawn.fill(QColor(10, 20, 30, 40));
+        QImage expected = drawn;
+        QPainter painter(&expected);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(row.brush, row.size, Qt::SolidLine, Qt::RoundCap));
+        DotStamps stamps(row.size);
+        for (int time = 0; time < 2; ++time) {
+            for (const QPointF &center : std::as_const(centers))
+                painter.drawPoint(center);
+            stamps.draw(&drawn, centers, row.brush);
+            QCOMPARE(drawn, expected);
+        }
     }
 
     void oddReadingsAtOddSizes_data()
