@@ -1,5 +1,7 @@
 #include "mainscreen/PmAnimation.h"
 
+#include "mainscreen/MovingParts.h"
+
 #include <QLabel>
 #include <QParallelAnimationGroup>
 #include <QPropertyAnimation>
@@ -31,6 +33,7 @@ QPixmap picture(const QString &name)
 
 PmAnimation::PmAnimation(QWidget *parent)
     : QFrame(parent)
+    , movingParts(new MovingParts(this))
     , whole(new QParallelAnimationGroup(this))
 {
     setObjectName(QStringLiteral("PmAnimation"));
@@ -58,6 +61,7 @@ void PmAnimation::init()
     whole->addAnimation(newSweeps());
     whole->addAnimation(initGranuleGroup());
     connect(whole, &QAbstractAnimation::finished, this, &PmAnimation::restart);
+    movingParts->watch(findChildren<QLabel *>());
 }
 
 void PmAnimation::startAnimation()
@@ -67,6 +71,7 @@ void PmAnimation::startAnimation()
 
 void PmAnimation::setInSight(bool inSight)
 {
+    movingParts->rest();
     if (whole->state() == (inSight ? QAbstractAnimation::Paused : QAbstractAnimation::Running))
         whole->setPaused(!inSight);
 }
@@ -74,6 +79,7 @@ void PmAnimation::setInSight(bool inSight)
 void PmAnimation::stopAnimation()
 {
     whole->stop();
+    movingParts->rest();
     hide();
 }
 
@@ -82,11 +88,11 @@ void PmAnimation::changedScanning()
     // Kept[scan-counter]: it goes on where the last run was stopped.
     const bool forward = scanCounter % 2 != 0;
     bar->setPixmap(picture(forward ? QStringLiteral("scanning") : QStringLiteral("scanning2")));
+    movingParts->refresh();
     ++scanCounter;
 }
 
-// Kept[animation-hooks]: the labels that move repaint themselves, and the animation has no end to
-// tell of.
+// Kept[animation-hooks]: what moves is painted without it, and the animation has no end to tell of.
 void PmAnimation::repaintUI(const QVariant &) {}
 
 void PmAnimation::restart()

@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QRandomGenerator>
 
+class MovingParts;
 class QAnimationGroup;
 class QLabel;
 class QParallelAnimationGroup;
@@ -50,6 +51,7 @@ private:
     QFrame *sensor = nullptr;
     QLabel *bar = nullptr;
     int scanCounter = 0;
+    MovingParts *movingParts;
     QParallelAnimationGroup *whole;
     QRandomGenerator random;
 };

@@ -40,6 +40,13 @@ struct Slide
     QString button, page;
 };
 
+struct Moment
+{
+    const char *name;
+    int time;
+    int strip;
+};
+
 struct Reading
 {
     const char *name;
@@ -203,6 +210,40 @@ private slots:
         QVERIFY(embedded("frame_center")->isVisible());
     }
 
+    void aScanIsPaintedAsTheSceneWouldDoIt_data()
+    {
+        // The bar turns after 5 s, with another picture, and all begins anew after 15 s.
+        addRows<Moment>({{"on its way", 2000, 0},
+                         {"as the bar turns", 4870, 0},
+                         {"as it begins anew", 14870, 0},
+                         {"as the page slides", 2000, -300}});
+    }
+
+    void aScanIsPaintedAsTheSceneWouldDoIt()
+    {
+        QFETCH(Moment, row);
+        swipe(9);
+        tapAt(window.get(), pmNumber);
+        const auto *scan = embedded("PmAnimation");
+        scan->findChild<QLabel *>("label_scanning")->installEventFilter(this);
+        auto *whole = scan->findChild<QAbstractAnimation *>({}, Qt::FindDirectChildrenOnly);
+        for (int frame = 0; frame < 9; ++frame) {
+            paintings = 0;
+            whole->setCurrentTime(row.time + 16 * frame);
+            whole->pause();
+            QCoreApplication::processEvents();
+        }
+        // It is no longer the scene that paints, until something else is painted.
+        QCOMPARE(paintings, 0);
+        const QImage straight = onScreen();
+        if (row.strip != 0)
+            callSlot(view, "change_page", Q_ARG(int, row.strip));
+        view->viewport()->repaint();
+        const QImage byTheScene = onScreen();
+        QCOMPARE(byTheScene, window->grab().toImage());
+        QCOMPARE(straight == byTheScene, row.strip == 0);
+    }
+
     void aPageSlidesInAsItsPicture_data()
     {
         addRows<Slide>({{"settings", "button_option", "page_option"},
@@ -232,9 +273,6 @@ private slots:
     void wifiButtonOpensItsPageOnce()
     {
         const QPoint place = centre("button_wifi");
-        const auto onScreen = [this] {
-            return window->screen()->grabWindow(window->winId()).toImage();
-        };
         const QImage dark = onScreen();
         // Within the press, as the search for networks may hold up the screen.
         QMouseEvent press(QEvent::MouseButtonPress, place, view->viewport()->mapToGlobal(place),
@@ -343,6 +381,8 @@ private:
         }
         return found;
     }
+
+    QImage onScreen() const { return window->screen()->grabWindow(window->winId()).toImage(); }
 
     QPoint centre(const QString &name) const
     {
