@@ -64,6 +64,12 @@ const QuantityLook &Blackboard::look() const
     return known ? *known : lookOf(Quantity::Humidity);
 }
 
+void Blackboard::setGround(const QColor &color)
+{
+    ground = color;
+    update();
+}
+
 std::pair<int, int> Blackboard::getDayTimeRange(CurrentDay wanted) const
 {
     // Readings have times that an int holds; beyond them there are none to show.
@@ -143,6 +149,7 @@ ChartFrame Blackboard::currentFrame() const
     const auto [start, end] = getDayTimeRange(day);
     return {.size = size(),
             .pixelRatio = devicePixelRatioF(),
+            .ground = ground,
             .values = valueScale,
             .times = timeScale,
             .rightMargin = rightMargin,
@@ -155,17 +162,26 @@ ChartFrame Blackboard::currentFrame() const
             .series = series};
 }
 
+void Blackboard::refreshAxes(const ChartFrame &frame)
+{
+    if (!axes.isNull() && frame.hasAxesOf(stillFrame))
+        return;
+    const bool isOpaque = frame.ground.alpha() == 255;
+    axes = QImage(frame.size * frame.pixelRatio,
+                  isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    axes.setDevicePixelRatio(frame.pixelRatio);
+    axes.fill(frame.ground);
+    QPainter painter(&axes);
+    ChartPainter(&painter, frame, &gc()).drawAxes();
+}
+
 bool Blackboard::refreshStillPart(const ChartFrame &frame)
 {
     if (!stillPart.isNull() && frame == stillFrame)
         return false;
-    stillPart = QImage(frame.size * frame.pixelRatio, QImage::Format_ARGB32_Premultiplied);
-    stillPart.setDevicePixelRatio(frame.pixelRatio);
-    stillPart.fill(Qt::transparent);
+    refreshAxes(frame);
+    stillPart = axes;
     stillFrame = frame;
-    QPainter painter(&stillPart);
-    ChartPainter(&painter, frame, &gc()).drawAxes();
-    painter.end();
     dots.draw(&stillPart, frame, valueMap, &gc());
     return true;
 }
@@ -207,6 +223,21 @@ void Blackboard::paintEvent(QPaintEvent *event)
     // Whoever listens may change what lies around the chart: not under a painter at work.
     painter.end();
     emit signalTouch(float(x), time, value, marker.color, look().unit.toString());
+}
+
+void Blackboard::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    // Not earlier: the style sheet, applied before a widget is shown, takes it away.
+    setAttribute(Qt::WA_OpaquePaintEvent, ground.alpha() == 255);
+}
+
+// A page that is seldom seen needs no memory.
+void Blackboard::hideEvent(QHideEvent *event)
+{
+    axes = {};
+    stillPart = {};
+    QWidget::hideEvent(event);
 }
 
 void Blackboard::resizeEvent(QResizeEvent *event)

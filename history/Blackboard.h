@@ -35,6 +35,9 @@ public:
     /// humidity. Values that are no numbers are left out with a debug line.
     void setValueMap(const QMap<int, float> &map, int newType);
 
+    /// Fills the ground with the opaque @p color. Without one what lies below the chart shows.
+    void setGround(const QColor &color);
+
     /// Gives the look of the quantity that is shown.
     const QuantityLook &look() const;
 
@@ -90,6 +93,8 @@ public slots:
     void reanimate1();
 
 protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -104,6 +109,7 @@ private:
     ChartFrame currentFrame() const;
     NearestDot nearestTo(float x) const;
     ChartMarker markerAt(int x, float value) const;
+    void refreshAxes(const ChartFrame &frame);
     bool refreshStillPart(const ChartFrame &frame);
     void followFinger(const QMouseEvent *event);
 
@@ -115,6 +121,8 @@ private:
     QList<int> screenXs;
     ValueRanges ranges;
     float touchX = -1;
+    QColor ground = Qt::transparent;
+    QImage axes;
     QImage stillPart;
     ChartDots dots;
     ChartFrame stillFrame;

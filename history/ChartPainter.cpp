@@ -37,6 +37,14 @@ QRect ringRect(const ChartMarker &marker)
 }
 } // namespace
 
+bool ChartFrame::hasAxesOf(ChartFrame other) const
+{
+    other.days = days;
+    other.otherDays = otherDays;
+    other.series = series;
+    return *this == other;
+}
+
 ChartPainter::ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGenerator *scale)
     : painter(target)
     , frame(shown)

@@ -13,6 +13,7 @@ struct ChartFrame
 {
     QSize size;
     double pixelRatio = 1;
+    QColor ground;
     ChartScale::Values values;
     ChartScale::Times times;
     float rightMargin = 0;
@@ -24,6 +25,8 @@ struct ChartFrame
     double revealed = 1;    ///< share of the width that the reveal animation has reached
     quint64 series = 0;     ///< counts the series handed to the chart
 
+    /// Tells whether the axes look like those of @p other.
+    bool hasAxesOf(ChartFrame other) const;
     bool operator==(const ChartFrame &) const = default;
 };
 

@@ -75,6 +75,8 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
     slideLabel->hide();
 
     blackboard = new Blackboard(ui->blackboard_content, clock);
+    // The one that its holder has by style sheet, which in Qt's eyes is not opaque.
+    blackboard->setGround(Qt::black);
     connect(blackboard, &Blackboard::signalTouch, this, &HistoryPage::onBlackboradTouch);
     connect(blackboard, &Blackboard::signalMouseRelease, this, &HistoryPage::onBlackboradRelease);
     // Queued: names must not change while the chart is painted.

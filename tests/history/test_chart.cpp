@@ -11,6 +11,7 @@
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QSignalSpy>
+#include <functional>
 #include <limits>
 
 using namespace ChartScale;
@@ -88,6 +89,12 @@ struct Touch
     float x;
     int time;
     QString unit;
+};
+
+struct Change
+{
+    const char *name;
+    std::function<void(Board &)> change;
 };
 
 struct Dots
@@ -284,6 +291,40 @@ private slots:
         board.mode = 1;
         QCOMPARE(board.getDayTimeRange(6), Days(today - 6 * day, today - 5 * day));
         QCOMPARE(board.getDayTimeRange(7), Days(today - 6 * day, today + day));
+    }
+
+    void whatIsKeptFollowsEveryChange_data()
+    {
+        addRows<Change>({{"other readings",
+                          [](Board &board) {
+                              board.setValueMap({{morning, 30}}, 2);
+                          }},
+                         {"another range",
+                          [](Board &board) {
+                              board.setValueMap({{morning, 99}}, 2);
+                          }},
+                         {"seven days", [](Board &board) { board.mode = 1; }},
+                         {"another day", [](Board &board) { board.mode = board.day = 1; }},
+                         {"a margin", [](Board &board) { board.timeScale = {.left = 80}; }},
+                         {"the steps", [](Board &board) { board.valueDivisions = 5; }},
+                         {"a ground", [](Board &board) { board.setGround(Qt::black); }}});
+    }
+
+    void whatIsKeptFollowsEveryChange()
+    {
+        QFETCH(Change, row);
+        Board board;
+        const QImage before = board.onScreen();
+        row.change(board);
+        board.update();
+        board.painted();
+        const QImage kept = board.onScreen();
+        QVERIFY(kept != before);
+        // A chart that was hidden has kept nothing.
+        board.hide();
+        board.show();
+        board.painted();
+        QCOMPARE(board.onScreen(), kept);
     }
 
     void dotsAreThoseOfThePainter_data()
