@@ -5,6 +5,7 @@
 #include "mainscreen/HumidityPage.h"
 #include "mainscreen/PageDots.h"
 #include "mainscreen/PmPage.h"
+#include "mainscreen/SparseProxy.h"
 #include "mainscreen/StripGeometry.h"
 #include "mainscreen/TemperaturePage.h"
 #include "pages/Look.h"
@@ -27,25 +28,30 @@ constexpr qreal overlayLevel = 3;
 constexpr int firstFrame = -1000;
 constexpr auto slideTime = 500ms;
 constexpr auto tick = 16ms;
-// In KB. The images of four proxies of the screen's size and every picture of the program share
-// this cache; an image that falls out of it is drawn anew in every frame.
-constexpr int pictureMemory = 32 * 1024;
-constexpr qreal leftOfTiles = 590;
+// In KB. Every picture of the program shares this cache.
+constexpr int pictureMemory = 25 * 1024;
+constexpr int leftOfTiles = 590;
 
 // Ends at the tiles on its way, so that no number runs under them and the side bar.
-class PageProxy : public QGraphicsProxyWidget
+class PageProxy : public SparseProxy
 {
 public:
-    PageProxy() { setFlag(ItemClipsToShape); }
+    using SparseProxy::SparseProxy;
 
     QPainterPath shape() const override
     {
-        QRectF seen = rect();
-        if (x() > 0)
-            seen.setRight(leftOfTiles - x());
         QPainterPath path;
-        path.addRect(seen);
+        path.addRect(seenPart());
         return path;
+    }
+
+protected:
+    QRect seenPart() const override
+    {
+        QRect seen = rect().toRect();
+        if (x() > 0)
+            seen.setWidth(leftOfTiles - int(x()));
+        return seen;
     }
 };
 } // namespace
@@ -78,9 +84,9 @@ void MainView::scene_init()
 
     readingPages = {new PmPage, new TemperaturePage, new HumidityPage};
     for (BaseValue *page : std::as_const(readingPages))
-        addCached(new PageProxy, page, pageLevel);
+        addProxy(new PageProxy(page), pageLevel);
     baseScene = new BaseScene;
-    addCached(new QGraphicsProxyWidget, baseScene, overlayLevel);
+    addProxy(new SparseProxy(baseScene), overlayLevel);
     background = graphicsScene.addPixmap(
         QPixmap(QStringLiteral(":/resource/images/mainPage/backgroud/backgroudMain.png")));
     background->setZValue(backgroundLevel);
@@ -93,12 +99,10 @@ void MainView::scene_init()
     baseScene->change_currentPage(currentPage);
 }
 
-void MainView::addCached(QGraphicsProxyWidget *proxy, QWidget *widget, qreal z)
+void MainView::addProxy(QGraphicsProxyWidget *proxy, qreal z)
 {
-    proxy->setWidget(widget);
     graphicsScene.addItem(proxy);
     proxy->setZValue(z);
-    proxy->setCacheMode(QGraphicsItem::ItemCoordinateCache);
 }
 
 void MainView::connect_init()

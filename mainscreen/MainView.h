@@ -59,7 +59,7 @@ private:
     void scene_init();
     void connect_init();
     void animation_init();
-    void addCached(QGraphicsProxyWidget *proxy, QWidget *widget, qreal z);
+    void addProxy(QGraphicsProxyWidget *proxy, qreal z);
     bool isSliding() const;
 
     QGraphicsScene graphicsScene;

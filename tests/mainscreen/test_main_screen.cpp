@@ -14,9 +14,11 @@
 
 #include <QGraphicsProxyWidget>
 #include <QLabel>
+#include <QPainter>
 #include <QPropertyAnimation>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QStyleOptionGraphicsItem>
 #include <QTimeLine>
 #include <QTimer>
 
@@ -156,7 +158,11 @@ private slots:
     void readingsReachTilesAndPages()
     {
         QFETCH(Reading, row);
-        report(row.reading);
+        swipe(9);
+        for (const int reading : {8, row.reading}) {
+            report(reading);
+            QTRY_COMPARE(window->grab().toImage(), drawnAnew());
+        }
         for (const char *name : {"label_pValue", "label_tValue", "label_hValue"}) {
             const auto *label = qobject_cast<QLabel *>(embedded(name));
             QCOMPARE(label->text(), row.text);
@@ -328,8 +334,11 @@ private slots:
         const QMap<int, double> opacities{
             {-3000, 0}, {-2999, 1}, {-1930, 1}, {-1790, 0.5}, {-1648, 0}};
         for (const auto &[frame, opacity] : opacities.asKeyValueRange()) {
+            // What changes unseen is drawn once it is seen.
+            report(frame / -100);
             callSlot(view, "change_page", Q_ARG(int, frame));
             QCOMPARE(page->opacity(), opacity);
+            QTRY_COMPARE(window->grab().toImage(), drawnAnew());
         }
         // Half way into the fading it ends at the tiles.
         callSlot(view, "change_page", Q_ARG(int, -1790));
@@ -388,6 +397,31 @@ private:
     {
         const QWidget *widget = embedded(name);
         return widget->mapTo(widget->window(), widget->rect().center());
+    }
+
+    /// The main screen without any picture that was kept.
+    QImage drawnAnew() const
+    {
+        QPixmap whole(Look::screen);
+        whole.fill(view->backgroundBrush().color());
+        QPainter painter(&whole);
+        for (QGraphicsItem *item : view->scene()->items(Qt::AscendingOrder)) {
+            painter.setTransform(item->sceneTransform());
+            painter.setOpacity(item->opacity());
+            if (!item->isWidget()) {
+                const QStyleOptionGraphicsItem option;
+                item->paint(&painter, &option, nullptr);
+                continue;
+            }
+            QPixmap own(Look::screen);
+            own.fill(Qt::transparent);
+            static_cast<QGraphicsProxyWidget *>(item)->widget()->render(&own);
+            // A page that comes ends at the tiles.
+            const int end = item->x() > 0 ? 590 - int(item->x()) : own.width();
+            painter.drawPixmap(0, 0, own, 0, 0, end, own.height());
+        }
+        painter.end();
+        return whole.toImage();
     }
 
     void tap(const QString &name) { tapAt(window.get(), centre(name)); }
