@@ -28,10 +28,9 @@ public:
         , picture(moved->grab())
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_OpaquePaintEvent);
         setGeometry(page->geometry());
         show();
-        // The style sheet has just taken it away.
-        setAttribute(Qt::WA_OpaquePaintEvent);
         page->setUpdatesEnabled(false);
         qApp->installEventFilter(this);
     }

@@ -16,14 +16,20 @@ SetTimePage::SetTimePage(QWidget *parent)
     captionSwitch(ui->checkBox_AutoGetTime, ui->button_close_2, ui->button_on_2);
     for (PageHolder *holder : {ui->page_dateTime, ui->page_timeZone})
         connect(holder, &PageHolder::signal_pageLeft, this, &SetTimePage::back_default_page);
+    // Set in the first painting, it would have the row painted twice.
+    showTime();
     readySpinnersSoon();
 }
 
 void SetTimePage::paintEvent(QPaintEvent *event)
 {
     FormPage::paintEvent(event);
-    if (!ui)
-        return;
+    if (ui)
+        showTime();
+}
+
+void SetTimePage::showTime()
+{
     const QString format = ui->checkBox_24Hours->isChecked()
                                ? QStringLiteral("yyyy-MM-dd HH:mm")
                                : QStringLiteral("yyyy-MM-dd hh:mm AP");

@@ -22,4 +22,7 @@ public slots:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    void showTime();
 };

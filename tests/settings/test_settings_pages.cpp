@@ -160,6 +160,28 @@ private slots:
         qApp->removeEventFilter(this);
     }
 
+    void whatOpensIsPaintedOnce()
+    {
+        qApp->installEventFilter(this);
+        const QWidget *menu = page->findChild<QWidget *>("frame_Conent");
+        for (const auto *tile : {"option_adjustLight", "option_setTime", "option_connectApp"}) {
+            paints.clear();
+            tap(scrolledTo(tile));
+            const QWidget *opened = page->childAt(400, 300);
+            while (!qobject_cast<const Page *>(opened))
+                opened = opened->parentWidget();
+            QTRY_VERIFY(paints[opened]);
+            QCoreApplication::processEvents();
+            QCOMPARE(paints[opened], 1);
+            paints.clear();
+            tap(visibleChild(page, "button_back"));
+            QTRY_VERIFY(paints[menu]);
+            QCoreApplication::processEvents();
+            QCOMPARE(paints[menu], 1);
+        }
+        qApp->removeEventFilter(this);
+    }
+
     void unitAndResetAreToldOnly()
     {
         MessageLog log;
@@ -344,10 +366,12 @@ private slots:
     }
 
 protected:
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             sinceLastPaint.start();
+            ++paints[watched];
+        }
         return false;
     }
 
@@ -366,6 +390,7 @@ private:
     std::unique_ptr<QStackedWidget> stack;
     PageHolder *holder = nullptr;
     QElapsedTimer sinceLastPaint;
+    QHash<const QObject *, int> paints;
 };
 
 ZELL_TEST_MAIN(TestSettingsPages)
