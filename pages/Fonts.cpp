@@ -2,9 +2,11 @@
 
 #include "device/DevicePath.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QFont>
 #include <QFontDatabase>
+#include <QPalette>
 
 void registerDeviceFonts()
 {
@@ -27,4 +29,16 @@ void substituteFonts()
         QFont::insertSubstitutions(family, {QStringLiteral("Roboto"), QStringLiteral("SimHei"),
                                             QStringLiteral("Noto Sans CJK SC")});
     }
+}
+
+void setPlainText()
+{
+    QPalette palette = QApplication::palette();
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        palette.setColor(role, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(255, 255, 255, 128));
+    QApplication::setPalette(palette);
+    QFont font = QApplication::font();
+    font.setFamily(QStringLiteral("Heiti SC"));
+    QApplication::setFont(font);
 }

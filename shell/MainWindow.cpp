@@ -49,6 +49,7 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::style_setup()
 {
+    setPlainText();
     QFile file(QStringLiteral(":resource/qss/ZellQt.qss"));
     if (file.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(QString::fromUtf8(file.readAll()));

@@ -19,6 +19,7 @@ Environment::Environment()
     if (!device().create({}, &problem))
         qFatal("%s", qPrintable(problem));
     substituteFonts();
+    setPlainText();
     QFile style(QStringLiteral(":/resource/qss/ZellQt.qss"));
     if (style.open(QIODevice::ReadOnly))
         qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
