@@ -3,6 +3,7 @@
 #include "pages/Ground.h"
 
 #include <QStackedWidget>
+#include <QTimer>
 #include <utility>
 
 namespace {
@@ -30,19 +31,41 @@ void Page::empty()
     beforeEmptying();
     setUpdatesEnabled(false);
     dropForm();
-    const auto widgets = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    for (Page *behind : findChildren<Page *>()) {
+        if (!behind->existsOnce())
+            behind->empty();
+    }
+    for (QWidget *widget : formWidgets())
+        widget->hide();
+    QTimer::singleShot(pictureTime, this, &Page::deleteWidgets);
+}
+
+void Page::deleteWidgets()
+{
     for (Page *behind : findChildren<Page *>()) {
         behind->setParent(this);
-        if (behind->existsOnce())
-            continue;
-        behind->empty();
-        // Once more for one that was emptied before: its new place in the tree has brought it back.
-        dropStyleOf(behind);
+        // Its new place in the tree has brought it back for one that had lost it.
+        if (!behind->existsOnce())
+            dropStyleOf(behind);
     }
     dropStyleOf(this);
-    // Kept[pages-never-deleted]: the page itself stays, and those behind it.
-    for (QWidget *widget : widgets)
+    for (QWidget *widget : formWidgets())
         widget->deleteLater();
+}
+
+// Kept[pages-never-deleted]: the page itself stays, and those behind it.
+QList<QWidget *> Page::formWidgets() const
+{
+    auto widgets = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    widgets.removeIf([](const QWidget *widget) { return qobject_cast<const Page *>(widget); });
+    return widgets;
+}
+
+void Page::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (emptied)
+        deleteWidgets();
 }
 
 void Page::back_default_page()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <chrono>
 
 /// Serves as a page of the settings area: built afresh for every visit, opened by a PageHolder and
 /// left by signal_backDefaultPage(), on the opaque ground of all pages.
@@ -14,12 +15,17 @@ class Page : public QWidget
     Q_OBJECT
 
 public:
+    /// When an opened page has its picture, counted from the tap, and nobody has found yet what to
+    /// tap on it: time for what no picture waits for.
+    static constexpr std::chrono::milliseconds pictureTime{100};
+
     explicit Page(QWidget *parent = nullptr);
 
     bool isEmptied() const { return emptied; }
 
-    /// Deletes the widgets of the form, from the event loop. The pages behind this one are kept and
-    /// emptied with it, but for those that exist once. May be called again.
+    /// Deletes the widgets of the form, once the page that is opened now has its picture or is
+    /// left. The pages behind this one are kept and emptied with it, but for those that exist once.
+    /// May be called again.
     void empty();
 
     /// Tells whether there is one such page in the program, which moves from holder to holder.
@@ -36,6 +42,8 @@ public slots:
     void back_default_page();
 
 protected:
+    void hideEvent(QHideEvent *event) override;
+
     /// Tells the opener that the user is done with the page. Nothing on an emptied one.
     void leave();
 
@@ -45,6 +53,8 @@ protected:
 private:
     /// Gives up the form, whose widgets go.
     virtual void dropForm() = 0;
+    void deleteWidgets();
+    QList<QWidget *> formWidgets() const;
 
     bool emptied = false;
 };

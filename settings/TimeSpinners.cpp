@@ -1,18 +1,14 @@
 #include "settings/TimeSpinners.h"
 
+#include "pages/Page.h"
 #include "settings/QmlApplicationViewer.h"
 
 #include <QCoreApplication>
 #include <QTimer>
-#include <chrono>
 #include <utility>
 
 namespace {
-using namespace std::chrono_literals;
-
 constexpr int noon = 12;
-// A page has its picture by then, and nobody has found the next row to tap on it.
-constexpr auto pictureTime = 100ms;
 
 QString spinnerFile(const QString &name)
 {
@@ -25,7 +21,7 @@ void readySpinnersSoon()
     static bool ready = false;
     if (std::exchange(ready, true))
         return;
-    QTimer::singleShot(pictureTime, qApp, [] {
+    QTimer::singleShot(Page::pictureTime, qApp, [] {
         for (const auto *name : {"date", "hour", "minute"})
             QmlApplicationViewer().setMainQmlFile(spinnerFile(QLatin1String(name)));
     });
