@@ -10,11 +10,13 @@
 
 #include <QApplication>
 #include <QQuickWindow>
+#include <QResource>
 #include <QScopeGuard>
 #include <QTimer>
 #include <QTranslator>
 #include <csignal>
 #include <memory>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace {
@@ -25,6 +27,20 @@ void limitEndOfQt()
     constexpr useconds_t longest = 500'000;
     std::signal(SIGALRM, [](int) { _exit(0); });
     ualarm(longest, 0);
+}
+
+// The one large picture that the program's file holds unpacked. It is drawn from its pixels; should
+// it be read once more, it comes from the file again.
+void forgetPackedBackground()
+{
+    const QResource background(
+        QStringLiteral(":/resource/images/mainPage/backgroud/backgroudMain.png"));
+    const auto page = quintptr(sysconf(_SC_PAGESIZE));
+    const auto data = quintptr(background.data());
+    const quintptr begin = (data + page - 1) / page * page;
+    const quintptr end = (data + quintptr(background.size())) / page * page;
+    if (begin < end)
+        madvise(reinterpret_cast<void *>(begin), end - begin, MADV_DONTNEED);
 }
 } // namespace
 
@@ -56,6 +72,7 @@ int main(int argc, char *argv[])
     QApplication::installTranslator(&translator);
 
     MainWindow window;
+    forgetPackedBackground();
     window.setGeometry(QRect(QPoint(0, 0), Look::screen));
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     const Watchdog watchdog(window);
