@@ -11,6 +11,7 @@ passwordKeyboard::passwordKeyboard(QWidget *parent)
     : FormPage(parent)
 {
     ui->setupUi(this);
+    network = ui->label_title->text();
     // Bound here, not by the form, which would look for a sender in on_entered_password as well.
     connect(ui->button_back, &QPushButton::clicked, this,
             &passwordKeyboard::on_button_back_clicked);
@@ -21,8 +22,10 @@ passwordKeyboard::passwordKeyboard(QWidget *parent)
 
 void passwordKeyboard::setNetwork(const QString &name)
 {
-    if (ui)
-        showName(name, ui->label_title);
+    if (!ui)
+        return;
+    network = name;
+    showName(name, ui->label_title);
 }
 
 void passwordKeyboard::on_entered_password()
@@ -37,5 +40,5 @@ void passwordKeyboard::on_entered_password()
 void passwordKeyboard::jump_wifiConnectResult_page()
 {
     if (ui)
-        ui->page_wifiConnectResult->open<wifiConnectResult>()->setNetwork(ui->label_title->text());
+        ui->page_wifiConnectResult->open<wifiConnectResult>()->setNetwork(network);
 }

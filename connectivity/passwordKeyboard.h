@@ -28,4 +28,7 @@ public slots:
     void on_entered_password();
     /// Opens the result of a connection; nothing calls it until there is a check.
     void jump_wifiConnectResult_page();
+
+private:
+    QString network; ///< whole, however much of it the title shows
 };
