@@ -34,6 +34,7 @@ QPixmap dotPicture()
     painter.drawEllipse(picture.rect());
     return picture;
 }
+
 // Letters begin where dots do, which their own left bearing brings about; what stands for a text
 // keeps off the caret before it.
 void leaveRoom(QLineEdit *line)
