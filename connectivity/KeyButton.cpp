@@ -69,10 +69,13 @@ const KeyLook &KeyLook::of(KeyKind kind)
     return *looks.constFind(kind);
 }
 
+// A button under construction asks the style sheet for the size of its icon, whose rules are then
+// held against all its ancestors: here it has none.
 KeyButton::KeyButton(KeyKind kind, QWidget *parent)
-    : QPushButton(parent)
+    : QPushButton(nullptr)
     , look(KeyLook::of(kind))
 {
+    setParent(parent);
     setFocusPolicy(Qt::NoFocus);
     setIconSize(iconSizeOfKeys);
 }
