@@ -51,7 +51,8 @@ void TimeZoneItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
                  127, item.description);
     } else if (text == QLatin1String("1")) {
         // Places count from the left edge of the screen, where the list begins as well.
-        painter->drawPixmap(checkMarkLeft, row.center().y() + 1 - pixChecked.height() / 2,
+        // Not from the centre, which lies otherwise where the row reaches above the list.
+        painter->drawPixmap(checkMarkLeft, row.top() + row.height() / 2 - pixChecked.height() / 2,
                             pixChecked);
     }
     painter->fillRect(textLeft, row.bottom(), hairlineRight - textLeft, 1,
