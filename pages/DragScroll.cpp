@@ -1,10 +1,12 @@
 #include "pages/DragScroll.h"
 
 #include "pages/CancelledTouch.h"
+#include "pages/ScrolledPicture.h"
 
 #include <QAbstractScrollArea>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -22,12 +24,12 @@ int fingerY(QAbstractScrollArea *area, QObject *touched, QEvent *event)
 } // namespace
 
 DragScroll::DragScroll(QAbstractScrollArea *scrolled, QObject *parent)
-    : QObject(parent)
+    : QPropertyAnimation(scrolled->verticalScrollBar(), "value", parent)
     , area(scrolled)
-    , animation(scrolled->verticalScrollBar(), "value")
 {
-    animation.setDuration(int(glideTime.count()));
-    animation.setEasingCurve(QEasingCurve::OutSine);
+    setDuration(int(glideTime.count()));
+    setEasingCurve(QEasingCurve::OutSine);
+    connect(this, &DragScroll::finished, this, [this] { delete picture; });
 }
 
 bool DragScroll::follow(QObject *touched, QEvent *event)
@@ -38,7 +40,8 @@ bool DragScroll::follow(QObject *touched, QEvent *event)
         return true;
     case QEvent::MouseButtonRelease:
         if (CancelledTouch::lifts(static_cast<QMouseEvent *>(event))) {
-            animation.stop();
+            stop();
+            delete picture;
             return true;
         }
         [[fallthrough]];
@@ -54,8 +57,21 @@ bool DragScroll::follow(QObject *touched, QEvent *event)
 void DragScroll::glide(int y)
 {
     const int value = area->verticalScrollBar()->value();
-    animation.stop();
-    animation.setStartValue(value);
-    animation.setEndValue(value - y + pressY);
-    animation.start();
+    stop();
+    setStartValue(value);
+    setEndValue(value - y + pressY);
+    start();
+}
+
+void DragScroll::updateCurrentValue(const QVariant &value)
+{
+    auto *bar = static_cast<QScrollBar *>(targetObject());
+    if (!bar || state() == Stopped)
+        return;
+    const int wanted = std::clamp(value.toInt(), bar->minimum(), bar->maximum());
+    if (wanted == bar->value())
+        return;
+    if (!picture)
+        picture = new ScrolledPicture(area);
+    picture->scrollTo(wanted);
 }

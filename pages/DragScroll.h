@@ -1,15 +1,17 @@
 #pragma once
 
+#include <QPointer>
 #include <QPropertyAnimation>
 
 class QAbstractScrollArea;
+class ScrolledPicture;
 
 /// Scrolls a list by dragging a finger over it, with a glide of 500 ms behind the finger.
 ///
 /// Every move scrolls by the whole distance from the point of the press, so that the list gains
 /// speed the longer the finger stays away from where it went down: the feel of all lists of this
 /// device. GUI thread.
-class DragScroll : public QObject
+class DragScroll : public QPropertyAnimation
 {
     Q_OBJECT
 
@@ -22,10 +24,13 @@ public:
     /// followed.
     bool follow(QObject *touched, QEvent *event);
 
+protected:
+    void updateCurrentValue(const QVariant &value) override;
+
 private:
     void glide(int y);
 
     QAbstractScrollArea *area;
-    QPropertyAnimation animation;
+    QPointer<ScrolledPicture> picture;
     int pressY = 0;
 };

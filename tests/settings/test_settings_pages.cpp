@@ -12,6 +12,7 @@
 #include "connectivity/updateFirmware.h"
 #include "connectivity/wifiConnectResult.h"
 #include "pages/CancelledTouch.h"
+#include "pages/Look.h"
 #include "pages/Page.h"
 #include "pages/PageHolder.h"
 #include "settings/DateTimePage.h"
@@ -31,12 +32,17 @@
 #include "testkit/TableRows.h"
 #include "testkit/Touch.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QPropertyAnimation>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QTableWidget>
 #include <functional>
+#include <utility>
 
 namespace {
 struct PageClass
@@ -90,6 +96,13 @@ class TestSettingsPages : public QObject
     {
         const char *name, *page, *lit, *tapped;
         QPoint at;
+    };
+    // What is dragged, and what changes in it on the way.
+    struct Dragged
+    {
+        const char *name, *area;
+        std::function<void(OptionPage *)> open;
+        std::function<void(QAbstractScrollArea *)> change;
     };
     struct Tap
     {
@@ -207,6 +220,72 @@ private slots:
         releaseAt(page, {200, 260});
         QTRY_COMPARE(scrollBar->value(), 141);
         QCOMPARE(taps.size(), 0);
+    }
+
+    void whatIsDraggedIsSeenAsItIs_data()
+    {
+        const auto rewrite = [](const char *label) {
+            return [label](auto *area) { area->template findChild<QLabel *>(label)->setText("-"); };
+        };
+        const auto openZones = [](OptionPage *menu) {
+            menu->jump_setTime_page();
+            callSlot(visibleChild(menu, "SetTimePage"), "on_button_timeZone_clicked");
+        };
+        const auto addRow = [](auto *area) {
+            auto *list = static_cast<QAbstractItemView *>(area);
+            list->model()->insertRows(0, 1);
+            // At once, as until then a list shows nothing.
+            list->doItemsLayout();
+        };
+        const auto mark = [](auto *area) {
+            static_cast<QTableWidget *>(area)->item(0, 1)->setText("1");
+        };
+        addRows<Dragged>(
+            {{"text in view", "scrollArea", [](auto) {}, rewrite("label_setLocation")},
+             {"text out of view", "scrollArea", [](auto) {}, rewrite("label_wifiName")},
+             {"networks", "listView", &OptionPage::jump_setWifi_page, addRow},
+             {"zones", "tableWidget_timeZone", openZones, mark}});
+    }
+
+    void whatIsDraggedIsSeenAsItIs()
+    {
+        QFETCH(Dragged, row);
+        QVERIFY(Environment::device().setNetworks(QStringList(20, "Network")));
+        QVERIFY(QDir().mkpath("../resource"));
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        row.open(page);
+        auto *area = qobject_cast<QAbstractScrollArea *>(visibleChild(page, row.area));
+        const QScrollBar *bar = area->verticalScrollBar();
+        QWidget *view = area->viewport();
+        // But for the thumb, which may stand upon it.
+        const QRect place(view->mapTo(window.get(), QPoint()),
+                          view->size().shrunkBy({0, 0, 15, 0}));
+        auto glides = page->findChildren<QPropertyAnimation *>();
+        glides.removeIf([bar](const auto *glide) { return glide->targetObject() != bar; });
+        int shown = bar->value();
+        int wrong = 0;
+        bool isChanged = false;
+        connect(glides.first(), &QPropertyAnimation::valueChanged, this, [&] {
+            if (std::exchange(shown, bar->value()) == bar->value())
+                return;
+            QImage wanted(place.size(), QImage::Format_RGB32);
+            wanted.fill(Look::ground);
+            view->render(&wanted, {}, {}, QWidget::DrawChildren);
+            const QImage seen = window->screen()->grabWindow(window->winId()).toImage();
+            wrong += differentPixels(seen.copy(place), wanted);
+            if (bar->value() > 120 && !std::exchange(isChanged, true))
+                row.change(area);
+        });
+        pressAt(page, {400, 300});
+        moveTo(page, {400, 120});
+        QTRY_VERIFY(bar->value() > 170);
+        moveTo(page, {400, 460});
+        QTRY_VERIFY(bar->value() < 30);
+        QVERIFY(isChanged);
+        QCOMPARE(wrong, 0);
+        releaseAt(page, {400, 460});
+        QTRY_COMPARE(glides.first()->state(), QPropertyAnimation::Stopped);
+        QCOMPARE(wrong, 0);
     }
 
     void tapNeedsTheFingerNear_data()
