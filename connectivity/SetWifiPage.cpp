@@ -1,6 +1,6 @@
 #include "connectivity/SetWifiPage.h"
 
-#include "connectivity/ScrollThumb.h"
+#include "pages/ScrollThumb.h"
 #include "connectivity/WifiListModel.h"
 #include "connectivity/WifiListRowDelegate.h"
 #include "connectivity/WifiScan.h"

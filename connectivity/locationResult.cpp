@@ -1,7 +1,7 @@
 #include "connectivity/locationResult.h"
 
 #include "connectivity/LineCaret.h"
-#include "connectivity/ScrollThumb.h"
+#include "pages/ScrollThumb.h"
 #include "pages/DragScroll.h"
 #include "pages/RowLight.h"
 #include "ui_locationResult.h"

@@ -1,6 +1,7 @@
 #include "pages/DragScroll.h"
 
 #include "pages/CancelledTouch.h"
+#include "pages/ScrollThumb.h"
 #include "pages/ScrolledPicture.h"
 
 #include <QAbstractScrollArea>
@@ -29,6 +30,7 @@ DragScroll::DragScroll(QAbstractScrollArea *scrolled, QObject *parent)
 {
     setDuration(int(glideTime.count()));
     setEasingCurve(QEasingCurve::OutSine);
+    lightenThumb(scrolled->verticalScrollBar());
     connect(this, &DragScroll::finished, this, [this] { delete picture; });
 }
 

@@ -196,11 +196,19 @@ private slots:
     void dragScrollsAndChoosesNothing()
     {
         scanFinds(QStringList(5, "Network"));
-        QVERIFY(!visibleChild(Screen().page, "scrollBar_networks"));
+        Screen grown;
+        QVERIFY(!visibleChild(grown.page, "scrollBar_networks"));
+        grown.list->model()->insertRows(0, 3);
+        const auto thumbOn = [](Screen &on) { return visibleChild(on.page, "scrollBar_networks"); };
+        QTRY_VERIFY(thumbOn(grown));
+        const QImage tall = thumbOn(grown)->grab().toImage();
         scanFinds(QStringList(500, "Network"));
         Screen screen;
-        const QWidget *thumb = visibleChild(screen.page, "scrollBar_networks");
+        QWidget *thumb = thumbOn(screen);
         QVERIFY(thumb);
+        QVERIFY(thumb->grab().toImage() != tall);
+        grown.list->model()->insertRows(0, 492);
+        QTRY_COMPARE(thumbOn(grown)->grab().toImage(), thumb->grab().toImage());
         QScrollBar *bar = screen.list->verticalScrollBar();
         drag(&screen.window, screen.rowAt(4), screen.rowAt(1));
         QTRY_VERIFY(bar->value() >= 240);
