@@ -14,6 +14,7 @@
 #include <QScopeGuard>
 #include <QTimer>
 #include <QTranslator>
+#include <bit>
 #include <csignal>
 #include <memory>
 #include <sys/mman.h>
@@ -35,12 +36,12 @@ void forgetPackedBackground()
 {
     const QResource background(
         QStringLiteral(":/resource/images/mainPage/backgroud/backgroudMain.png"));
-    const auto page = quintptr(sysconf(_SC_PAGESIZE));
-    const auto data = quintptr(background.data());
-    const quintptr begin = (data + page - 1) / page * page;
-    const quintptr end = (data + quintptr(background.size())) / page * page;
-    if (begin < end)
-        madvise(reinterpret_cast<void *>(begin), end - begin, MADV_DONTNEED);
+    const qint64 page = sysconf(_SC_PAGESIZE);
+    const qint64 begin = (page - qint64(quintptr(background.data())) % page) % page;
+    const qint64 length = (background.size() - begin) / page * page;
+    if (length > 0)
+        madvise(std::bit_cast<void *>(background.data() + begin), std::size_t(length),
+                MADV_DONTNEED);
 }
 } // namespace
 
