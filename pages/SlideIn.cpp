@@ -25,8 +25,10 @@ public:
         : QWidget(place)
         , page(moved)
         , embedding(moved->window() == place->window() ? nullptr : moved->window())
-        , picture(moved->grab())
+        , picture(moved->size())
     {
+        // Not grabbed: that gives a picture with an alpha channel, which is blended.
+        moved->render(&picture, {}, {}, QWidget::DrawChildren);
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_OpaquePaintEvent);
         setGeometry(page->geometry());
