@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPointer>
+#include <utility>
 
 namespace {
 // The scan tells neither of them; every network gets the same.
@@ -69,7 +70,8 @@ void SetWifiPage::showNetworks(QFile &scanFile)
     ui->listView->show();
     ui->scrollArea->show();
     qDebug() << "Open file OK and the file is not blank...";
-    model = new WifiListModel(this);
+    // It goes once the view has the next one.
+    const std::unique_ptr<WifiListModel> blank(std::exchange(model, new WifiListModel(this)));
     for (const QString &name : readNetworkNames(scanFile)) {
         qDebug() << "strEverySSIDName" << name;
         wifiList.append(keep(

@@ -84,6 +84,7 @@ private slots:
         Screen screen;
         QCOMPARE(screen.names(), (QVariantList{"Home", "", "Home"}));
         QCOMPARE(screen.states(), (QVariantList{0, 0, 0}));
+        QCOMPARE(screen.page->findChildren<QAbstractItemModel *>().size(), 1);
         QCOMPARE(visibleOf(screen.page, parts), parts.first(2));
         QCOMPARE(log.count("strEverySSIDName \"Home\""), 2);
         screen.page->onListWifiItemClicked({}, {});
