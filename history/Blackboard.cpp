@@ -262,7 +262,9 @@ void Blackboard::followFinger(const QMouseEvent *event)
         update();
         return;
     }
-    const ChartMarker marker = markerAt(screenXs[index], valueMap.value(times[index]));
+    const float value = valueMap.value(times[index]);
+    const ChartMarker marker = markerAt(screenXs[index], value);
+    emit readingReached(float(marker.x), value, marker.color, look().unit.toString());
     const QRect place = ChartPainter::markerRect(marker, height());
     const QRect both = paintedMarker | place;
     // A finger on its way needs a rectangle little wider than its marker; one that jumps, two.

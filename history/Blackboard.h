@@ -80,6 +80,8 @@ public:
 signals:
     /// Tells that the days of the chart have moved: midnight has passed, or the clock was set.
     void daysMoved();
+    /// Tells of the reading that the next painting marks, so that a read-out is painted with it.
+    void readingReached(float x, float value, const QColor &valueColor, const QString &unit);
     /// Tells of the reading under the finger. Emitted from painting, thus again with every repaint.
     void signalTouch(float x, int time, float value, QColor valueColor, QString unit);
     /// Tells that the finger has left, or that there is no reading to touch.

@@ -12,28 +12,57 @@ constexpr int valueLabelsBelowLine = 10;
 constexpr int gridAlpha = 25;
 constexpr int markerLineWidth = 2;
 constexpr int markerLineFadesAboveFoot = 50;
-// The ring is drawn at this distance left of and above its reading, 18 pixels wide.
-constexpr int ringRadius = 9;
 constexpr int ringSize = 18;
+// Half a pen and one pixel of antialiasing.
+constexpr int ringAir = 2;
+constexpr int ringReach = ringSize / 2 + ringAir;
+
+// As the painter thins a colour where it covers a pixel in part.
+QRgb tinted(QRgb color, int alpha)
+{
+    return qPremultiply((color & 0xFFFFFF) | (unsigned(alpha) << 24));
+}
 
 // A line down the chart that fades from color to nothing. The painter would hand a gradient of this
 // height to its threads, which takes ten times as long as the pixels do.
-QImage fadingLine(const QColor &color, int height)
+QImage fadingLine(QRgb color, int height)
 {
     QImage line(markerLineWidth, height, QImage::Format_ARGB32_Premultiplied);
     line.fill(Qt::transparent);
+    auto *pixels = reinterpret_cast<QRgb *>(line.bits());
     const int end = height - markerLineFadesAboveFoot;
-    for (int y = 0; y < end; ++y) {
-        const int alpha = qRound(255.0 * (end - y - 0.5) / end);
-        const QRgb pixel = qPremultiply((color.rgb() & 0xFFFFFF) | (unsigned(alpha) << 24));
-        std::fill_n(reinterpret_cast<QRgb *>(line.scanLine(y)), markerLineWidth, pixel);
-    }
+    for (int y = 0; y < end; ++y, pixels += markerLineWidth)
+        std::fill_n(pixels, markerLineWidth, tinted(color, qRound(255.0 * (end - y - 0.5) / end)));
     return line;
+}
+
+// The outline of a ring costs more than its pixels, and all rings lie on whole ones.
+QImage ringPart(const QPen &edge, const QBrush &inside)
+{
+    QImage part(ringSize + 2 * ringAir, ringSize + 2 * ringAir,
+                QImage::Format_ARGB32_Premultiplied);
+    part.fill(Qt::transparent);
+    QPainter painter(&part);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(edge);
+    painter.setBrush(inside);
+    painter.drawEllipse(ringAir, ringAir, ringSize, ringSize);
+    return part;
+}
+
+QImage disc(QRgb color)
+{
+    static const QImage white = ringPart(Qt::NoPen, Qt::white);
+    QImage disc = white;
+    auto *pixels = reinterpret_cast<QRgb *>(disc.bits());
+    std::transform(pixels, pixels + disc.width() * disc.height(), pixels,
+                   [color](QRgb pixel) { return tinted(color, qAlpha(pixel)); });
+    return disc;
 }
 
 QRect ringRect(const ChartMarker &marker)
 {
-    return {marker.x - ringRadius, marker.y - ringRadius, ringSize, ringSize};
+    return QRect(marker.x, marker.y, 0, 0).adjusted(-ringReach, -ringReach, ringReach, ringReach);
 }
 } // namespace
 
@@ -103,18 +132,17 @@ void ChartPainter::drawValueAxis()
 
 void ChartPainter::drawMarker(const ChartMarker &marker)
 {
-    painter->drawImage(marker.x - markerLineWidth / 2, 0,
-                       fadingLine(marker.color, frame.size.height()));
-    painter->setPen(QPen(Qt::white, 2));
-    painter->setBrush(marker.color);
-    painter->drawEllipse(ringRect(marker));
+    static const QImage ring = ringPart(QPen(Qt::white, 2), Qt::NoBrush);
+    const QRgb color = marker.color.rgb();
+    painter->drawImage(marker.x - markerLineWidth / 2, 0, fadingLine(color, frame.size.height()));
+    const QPoint place = ringRect(marker).topLeft();
+    painter->drawImage(place, disc(color));
+    painter->drawImage(place, ring);
 }
 
 QRect ChartPainter::markerRect(const ChartMarker &marker, int height)
 {
-    // Half a pen and one pixel of antialiasing.
-    constexpr int air = 2;
-    const QRect ring = ringRect(marker).adjusted(-air, -air, air, air);
+    const QRect ring = ringRect(marker);
     return {ring.x(), 0, ring.width(), height};
 }
 

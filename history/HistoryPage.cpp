@@ -77,6 +77,7 @@ HistoryPage::HistoryPage(QWidget *parent, LocalTime::Clock currentTime)
     blackboard = new Blackboard(ui->blackboard_content, clock);
     // The one that its holder has by style sheet, which in Qt's eyes is not opaque.
     blackboard->setGround(Qt::black);
+    connect(blackboard, &Blackboard::readingReached, this, &HistoryPage::moveReadOut);
     connect(blackboard, &Blackboard::signalTouch, this, &HistoryPage::onBlackboradTouch);
     connect(blackboard, &Blackboard::signalMouseRelease, this, &HistoryPage::onBlackboradRelease);
     // Queued: names must not change while the chart is painted.
@@ -127,6 +128,8 @@ void HistoryPage::loadData()
 void HistoryPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    // Bar and chart cover it. Not earlier, as the style sheet would take it away.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     labelDays();
     blackboard->followClock();
     clockWatch.start(clockWatchPeriod);
@@ -175,6 +178,11 @@ void HistoryPage::onBlackboradTouch(float x, int time, float value, const QColor
                                     const QString &unit)
 {
     qDebug() << "x:" << x << " time:" << time << " value:" << value;
+    moveReadOut(x, value, valueColor, unit);
+}
+
+void HistoryPage::moveReadOut(float x, float value, const QColor &valueColor, const QString &unit)
+{
     slideLabel->updateValue(value, unit, QStringLiteral("2016-07-11"), valueColor);
     // Kept[read-out-unheld]: at the first dots it begins left of the screen.
     slideLabel->setGeometry(QRect(QPoint(int(x - readOutLead), 0), readOutSize));

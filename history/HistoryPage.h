@@ -56,6 +56,7 @@ private slots:
     void onBlackboradTouch(float x, int time, float value, const QColor &valueColor,
                            const QString &unit);
     void onBlackboradRelease();
+    void moveReadOut(float x, float value, const QColor &valueColor, const QString &unit);
 
 private:
     void labelDays();

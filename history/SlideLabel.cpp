@@ -1,26 +1,97 @@
 #include "history/SlideLabel.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
+#include <chrono>
+#include <utility>
 
 namespace {
+using namespace std::chrono_literals;
+
+constexpr auto restTime = 100ms;
 constexpr int horizontalGap = 9;
 constexpr int verticalGap = 3;
 constexpr int chipHeight = 42;
 constexpr int unitWidth = 73;
 constexpr QColor contourColor(0x21, 0x21, 0x21, 160);
 constexpr int contourWidth = 3;
+constexpr int plateRadius = 10;
 
-// White on a plate of any colour: a dark contour below the glyphs keeps them legible. Each of the
-// few glyphs is drawn once, as strokes would cost more than all else that a moving finger repaints.
-class OutlinedLabel : public QLabel
+// Text that stays the same would cost most of all that a moving finger repaints, so it is painted
+// once.
+class StillLabel : public QLabel
 {
 public:
     using QLabel::QLabel;
 
 protected:
+    void changeEvent(QEvent *event) override
+    {
+        picture = {};
+        QLabel::changeEvent(event);
+    }
+
+    void paintEvent(QPaintEvent *) override
+    {
+        const QSize wanted = size() * devicePixelRatioF();
+        if (std::exchange(shownText, text()) != text() || picture.size() != wanted) {
+            picture = QPixmap(wanted);
+            picture.setDevicePixelRatio(devicePixelRatioF());
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            painter.setFont(font());
+            style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(),
+                                  isEnabled(), text(), foregroundRole());
+        }
+        QPainter(this).drawPixmap(0, 0, picture);
+    }
+
+private:
+    QString shownText;
+    QPixmap picture;
+};
+
+template <class Label = StillLabel>
+Label *makeLabel(QWidget *parent, const QString &text, int pixelSize, Qt::Alignment alignment)
+{
+    auto *label = new Label(text, parent);
+    QFont font = label->font();
+    font.setPixelSize(pixelSize);
+    label->setFont(font);
+    label->setAlignment(alignment);
+    label->setIndent(0);
+    return label;
+}
+} // namespace
+
+// White on a plate of any colour: a dark contour below the glyphs keeps them legible. Each of the
+// few glyphs is drawn once, as strokes would cost more than all else that a moving finger repaints.
+class SlideLabel::OutlinedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    const QColor &plateColor() const { return plate; }
+    void setPlate(const QColor &color)
+    {
+        if (std::exchange(plate, color) != color)
+            update();
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool isUsed = QLabel::event(event);
+        // The style sheet would paint its plate, whose colour follows later, below this one.
+        if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+            setAttribute(Qt::WA_StyledBackground, false);
+        return isUsed;
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         int width = 0;
@@ -29,7 +100,10 @@ protected:
         const QRect place = contentsRect();
         int x = place.x() + (place.width() - width) / 2 - contourWidth;
         QPainter painter(this);
-        drawFrame(&painter);
+        painter.setRenderHint(QPainter::Antialiasing);
+        QPainterPath shape;
+        shape.addRoundedRect(rect(), plateRadius, plateRadius);
+        painter.fillPath(shape, plate);
         for (const QChar sign : text()) {
             const QPixmap picture = glyph(sign);
             painter.drawPixmap(x, place.bottom() + 1 - picture.height(), picture);
@@ -56,21 +130,9 @@ private:
         return picture;
     }
 
+    QColor plate = Qt::transparent;
     QHash<QChar, QPixmap> glyphs;
 };
-
-template <class Label = QLabel>
-QLabel *makeLabel(QWidget *parent, const QString &text, int pixelSize, Qt::Alignment alignment)
-{
-    auto *label = new Label(text, parent);
-    QFont font = label->font();
-    font.setPixelSize(pixelSize);
-    label->setFont(font);
-    label->setAlignment(alignment);
-    label->setIndent(0);
-    return label;
-}
-} // namespace
 
 SlideLabel::SlideLabel(QWidget *parent)
     : QWidget(parent)
@@ -102,6 +164,11 @@ SlideLabel::SlideLabel(QWidget *parent)
     grid->addWidget(timeLabel, 0, 0, 1, 2);
     grid->addWidget(valueLabel, 1, 0);
     grid->addWidget(unitLabel, 1, 1);
+
+    // To set a style sheet costs more than all else that a finger moves.
+    rest.setSingleShot(true);
+    rest.setInterval(restTime);
+    connect(&rest, &QTimer::timeout, this, &SlideLabel::dressPlate);
 }
 
 // Kept[read-out-date]: the date it was built with stays.
@@ -109,10 +176,19 @@ void SlideLabel::updateValue(float value, const QString &unit, const QString &, 
 {
     valueLabel->setText(QString::asprintf("%.1f", double(value)));
     unitLabel->setText(unit);
+    valueLabel->setPlate(color);
+    if (isVisible())
+        rest.start();
+    else
+        dressPlate();
+}
+
+void SlideLabel::dressPlate()
+{
     const QString style =
         QStringLiteral("QLabel { width: 60px;height: 30px;background-color : %1; color : white; "
                        "border:0px groove gray;border-radius:10px;padding-top:5px;}")
-            .arg(color.name());
+            .arg(valueLabel->plateColor().name());
     // Setting a style sheet polishes the label anew even where it is the same.
     if (valueLabel->styleSheet() != style)
         valueLabel->setStyleSheet(style);

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -16,11 +17,16 @@ public:
     explicit SlideLabel(QWidget *parent = nullptr);
 
     /// Shows @p value with one decimal in @p unit on @p color. The date keeps the text it was built
-    /// with; @p time is not shown. Repeating a call costs nothing.
+    /// with; @p time is not shown. The style sheet of the chip follows when the finger rests.
     void updateValue(float value, const QString &unit, const QString &time, const QColor &color);
 
 private:
+    class OutlinedLabel;
+
+    void dressPlate();
+
     QLabel *timeLabel;
-    QLabel *valueLabel;
+    OutlinedLabel *valueLabel;
     QLabel *unitLabel;
+    QTimer rest;
 };

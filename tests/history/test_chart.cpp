@@ -58,6 +58,7 @@ public:
     bool showsItsLastDot() { return onScreen().pixelColor(81, 142).blue() < 100; }
 
     qint64 now = today + 16 * hour;
+    QSignalSpy reached{this, &Blackboard::readingReached};
     QSignalSpy touched{this, &Blackboard::signalTouch};
     QSignalSpy released{this, &Blackboard::signalMouseRelease};
 
@@ -223,9 +224,11 @@ private slots:
         const MessageLog log;
         pressAt(&board, {row.fingerX, 200});
         board.painted();
+        QCOMPARE(board.reached.count(), 1);
         const float value = week[row.time];
         const QColor color = PmColorGenerator().colorOfPm(value);
         QCOMPARE(board.touched.value(0), QVariantList({row.x, row.time, value, color, row.unit}));
+        QCOMPARE(board.reached[0], QVariantList({row.x, value, color, row.unit}));
         QVERIFY(log.contains(QString("Nearest X: %1 Value  %2").arg(row.time).arg(value)));
         QCOMPARE(board.released.count(), 0);
         releaseAt(&board, {row.fingerX, 200});

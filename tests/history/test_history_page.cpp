@@ -81,6 +81,10 @@ private slots:
         QCOMPARE(readOutText(0), QString("2005-7-11/23:02"));
         QCOMPARE(readOutText(1), QString::number(reading[2].toDouble(), 'f', 1));
         QCOMPARE(readOutText(2), QString("℃"));
+        const auto color = reading[3].value<QColor>();
+        QCOMPARE(readOut()->grab().toImage().pixelColor(9, 50), color);
+        QTRY_VERIFY(readOut()->findChildren<QLabel *>()[1]->styleSheet().contains(color.name()));
+        const QImage degrees = readOut()->grab({130, 34, 70, 42}).toImage();
         // White on a bright plate, and dark where the two meet.
         const QImage plate =
             readOut()->grab({30, 40, 60, 26}).toImage().convertToFormat(QImage::Format_Grayscale8);
@@ -97,6 +101,7 @@ private slots:
         }
         QCOMPARE(labelOf("label_title")->text(), shown);
         QTRY_COMPARE(readOutText(2), QString("μg/m³"));
+        QVERIFY(readOut()->grab({130, 34, 70, 42}).toImage() != degrees);
         releaseAt(page.get(), {90, 30});
         QVERIFY(!readOut()->isVisible());
         QVERIFY(visibleChild(page.get(), "frame_top"));
