@@ -46,9 +46,12 @@ adjustLight::adjustLight(QWidget *parent)
 
 bool adjustLight::eventFilter(QObject *watched, QEvent *event)
 {
-    if (ui && watched == ui->slider_light && event->type() == QEvent::MouseButtonPress) {
-        QSlider *slider = ui->slider_light;
-        const int x = static_cast<QMouseEvent *>(event)->position().toPoint().x();
+    QSlider *slider = ui ? ui->slider_light : nullptr;
+    const bool isPress = slider && watched == slider && slider->isEnabled() &&
+                         event->type() == QEvent::MouseButtonPress;
+    const auto *press = isPress ? static_cast<QMouseEvent *>(event) : nullptr;
+    if (press && press->button() == Qt::LeftButton) {
+        const int x = press->position().toPoint().x();
         // The slider itself would go one page nearer; under the finger, its handle is dragged on.
         slider->setValue(QStyle::sliderValueFromPosition(slider->minimum(), slider->maximum(),
                                                          x - handleWidth / 2,
@@ -113,11 +116,12 @@ void adjustLight::styleSlider(Groove wanted)
     ui->slider_light->setStyleSheet(
         QStringLiteral(
             "QSlider::groove { background: transparent; }"
-            "QSlider::handle { width: 72px; border: -36px solid #212121; border-width: 0px;"
+            "QSlider::handle { width: %3px; border: -36px solid #212121; border-width: 0px;"
             " border-image: url(:/resource/images/optionPage/adjustLight/sliderHandle.png); }"
             "QSlider::sub-page { margin: 30px 0px 30px 36px; border-width: 0px 6px;"
             " border-image: url(:/resource/images/optionPage/adjustLight/%1) 0 6; }"
             "QSlider::add-page { margin: 30px 36px 30px 0px; border-width: 0px 6px;"
             " border-image: url(:/resource/images/optionPage/adjustLight/%2) 0 6; }")
-            .arg(QLatin1String(left), QLatin1String(right)));
+            .arg(QLatin1String(left), QLatin1String(right))
+            .arg(handleWidth));
 }

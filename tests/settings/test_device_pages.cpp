@@ -100,8 +100,11 @@ private slots:
     {
         const QPoint handle = slider->mapTo(page.get(), slider->rect().center());
         drag(page.get(), handle, handle + QPoint(100, 0));
+        QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(99, 36)); // as if nothing lay upon it
         QCOMPARE(slider->value(), 132);
         tap(page->findChild<QWidget *>("checkBox_adjustLight"));
+        QTest::mousePress(slider, Qt::RightButton, {}, QPoint(99, 36));
+        QCOMPARE(slider->value(), 132);
         // From beside the handle: it jumps there and is dragged on. 250 levels lie on 544 px.
         pressAt(page.get(), handle - QPoint(136, 0));
         QCOMPARE(slider->value(), 69);
