@@ -54,10 +54,15 @@ void BaseValue::mouseReleaseEvent(QMouseEvent *event)
 
 void BaseValue::showRow(const DigitRow &row)
 {
-    showGlyph(ui->label_minus, row.minus);
-    showGlyph(ui->label_hundreds, row.hundreds);
-    showGlyph(ui->label_tens, row.tens);
-    showGlyph(ui->label_units, row.units);
+    const auto show = [&](QLabel *label, Glyph DigitRow::*place) {
+        if (row.*place != shown.*place)
+            showGlyph(label, row.*place);
+    };
+    show(ui->label_minus, &DigitRow::minus);
+    show(ui->label_hundreds, &DigitRow::hundreds);
+    show(ui->label_tens, &DigitRow::tens);
+    show(ui->label_units, &DigitRow::units);
+    shown = row;
     // Kept[unit-gone]: a later reading has none.
     if (row.hidesUnit)
         ui->label_symbol->hide();

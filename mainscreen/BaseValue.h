@@ -48,5 +48,6 @@ protected:
 private:
     void arrange(int width);
 
+    DigitRow shown; ///< at first that of the form
     QPoint pressPosition;
 };

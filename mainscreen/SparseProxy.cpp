@@ -5,8 +5,9 @@
 #include <QGraphicsEffect>
 #include <QPainter>
 #include <QWidget>
-#include <algorithm>
 #include <bit>
+#include <functional>
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -86,7 +87,8 @@ void SparseProxy::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWi
         QImage(first, part.width(), part.height(), picture.bytesPerLine(), picture.format())
             .fill(0);
     }
-    widget()->render(&picture, changed.boundingRect().topLeft(), changed);
+    // Its own ground is transparent.
+    widget()->render(&picture, changed.boundingRect().topLeft(), changed, QWidget::DrawChildren);
 
     const auto before = drawnCells;
     for (const QRect &part : changed)
@@ -112,7 +114,7 @@ bool SparseProxy::isDrawn(const QRect &dots) const
 {
     for (int y = dots.top(); y <= dots.bottom(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y)) + dots.left();
-        if (std::any_of(line, line + dots.width(), [](QRgb dot) { return dot != 0; }))
+        if (std::accumulate(line, line + dots.width(), QRgb(0), std::bit_or()) != 0)
             return true;
     }
     return false;
