@@ -89,6 +89,8 @@ void BaseScene::animation_init()
 void BaseScene::change_currentPage(int page)
 {
     if (const QuantityLook *look = lookOf(page)) {
+        // Before the other one comes: the layout would make room for three.
+        tileOf(look->quantity)->hide();
         for (const QuantityLook &each : quantities)
             tileOf(each.quantity)->setVisible(each.quantity != look->quantity);
         // The unit of the caption, not of a tile.
