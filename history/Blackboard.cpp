@@ -162,25 +162,28 @@ ChartFrame Blackboard::currentFrame() const
             .series = series};
 }
 
-void Blackboard::refreshAxes(const ChartFrame &frame)
+// One for each presentation, as the tabs lead to and fro.
+const QImage &Blackboard::axesOf(const ChartFrame &frame)
 {
-    if (!axes.isNull() && frame.hasAxesOf(stillFrame))
-        return;
+    auto &[drawn, picture] = axes[frame.otherDays ? 1 : 0];
+    if (!picture.isNull() && frame.hasAxesOf(drawn))
+        return picture;
+    drawn = frame;
     const bool isOpaque = frame.ground.alpha() == 255;
-    axes = QImage(frame.size * frame.pixelRatio,
-                  isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
-    axes.setDevicePixelRatio(frame.pixelRatio);
-    axes.fill(frame.ground);
-    QPainter painter(&axes);
+    picture = QImage(frame.size * frame.pixelRatio,
+                     isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(frame.pixelRatio);
+    picture.fill(frame.ground);
+    QPainter painter(&picture);
     ChartPainter(&painter, frame, &gc()).drawAxes();
+    return picture;
 }
 
 bool Blackboard::refreshStillPart(const ChartFrame &frame)
 {
     if (!stillPart.isNull() && frame == stillFrame)
         return false;
-    refreshAxes(frame);
-    stillPart = axes;
+    stillPart = axesOf(frame);
     stillFrame = frame;
     dots.draw(&stillPart, frame, valueMap, &gc());
     return true;

@@ -7,6 +7,7 @@
 
 #include <QMap>
 #include <QWidget>
+#include <array>
 #include <utility>
 
 class QTimeLine;
@@ -111,7 +112,7 @@ private:
     ChartFrame currentFrame() const;
     NearestDot nearestTo(float x) const;
     ChartMarker markerAt(int x, float value) const;
-    void refreshAxes(const ChartFrame &frame);
+    const QImage &axesOf(const ChartFrame &frame);
     bool refreshStillPart(const ChartFrame &frame);
     void followFinger(const QMouseEvent *event);
 
@@ -124,7 +125,7 @@ private:
     ValueRanges ranges;
     float touchX = -1;
     QColor ground = Qt::transparent;
-    QImage axes;
+    std::array<std::pair<ChartFrame, QImage>, 2> axes;
     QImage stillPart;
     ChartDots dots;
     ChartFrame stillFrame;
