@@ -31,11 +31,6 @@ ScrolledPicture::ScrolledPicture(QAbstractScrollArea *scrolled)
     picture.fill(Look::ground);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(area->rect());
-    // The bars come first among the parts of the area, and are below all others.
-    QWidget *bar = area->verticalScrollBar()->parentWidget();
-    bar->raise();
-    stackUnder(bar);
-    show();
     window()->installEventFilter(this);
 }
 
@@ -46,6 +41,8 @@ void ScrolledPicture::scrollTo(int value)
     const bool isKnown = (QRegion(view()) - drawn).isEmpty();
     if (drawn.isEmpty())
         ink.setCoords(width(), 0, -1, height() - 1);
+    if (isHidden())
+        takePlace();
     // Opaque for this step, so that nothing below is painted, and what scrolls there does not ask
     // for it: it would ask for all columns.
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -57,6 +54,18 @@ void ScrolledPicture::scrollTo(int value)
     update(isKnown ? ink : rect());
     QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest);
     setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
+void ScrolledPicture::takePlace()
+{
+    // The bars come first among the parts of the area, and are below all others.
+    QWidget *bar = area->verticalScrollBar()->parentWidget();
+    bar->raise();
+    stackUnder(bar);
+    show();
+    // A widget that is shown is painted once more from the event loop, here with all that lies
+    // below.
+    QCoreApplication::removePostedEvents(this, QEvent::UpdateLater);
 }
 
 bool ScrolledPicture::eventFilter(QObject * /*watched*/, QEvent *event)

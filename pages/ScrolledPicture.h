@@ -32,6 +32,7 @@ protected:
 private:
     QRect view() const;
     bool isMoving() const { return testAttribute(Qt::WA_OpaquePaintEvent); }
+    void takePlace();
     void drawMissing();
     void findInk(const QRect &rows);
 
