@@ -31,19 +31,10 @@ const QFont &keyFont()
     return font;
 }
 
-// On the ground of the page: what lies below a key need not be painted.
-QPixmap onGround(const QPixmap &plate)
-{
-    QPixmap cell(plate.size());
-    cell.fill(Look::ground);
-    QPainter(&cell).drawPixmap(0, 0, plate);
-    return cell;
-}
-
 QPixmap picture(const char *name)
 {
-    return onGround(QPixmap(
-        QStringLiteral(":/resource/images/optionPage/keyboard/%1.png").arg(QLatin1String(name))));
+    return QPixmap(
+        QStringLiteral(":/resource/images/optionPage/keyboard/%1.png").arg(QLatin1String(name)));
 }
 
 QPixmap characterPlate()
@@ -56,8 +47,7 @@ QPixmap characterPlate()
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(255, 255, 255, 22));
     painter.drawRoundedRect(cell.adjusted(3, 3, -3, -3), 9, 9);
-    painter.end();
-    return onGround(plate);
+    return plate;
 }
 } // namespace
 
@@ -88,7 +78,6 @@ KeyButton::KeyButton(KeyKind kind, QWidget *parent)
     setParent(parent);
     setFocusPolicy(Qt::NoFocus);
     setIconSize(iconSizeOfKeys);
-    setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 bool KeyButton::event(QEvent *event)
