@@ -154,12 +154,22 @@ void SparseProxy::cut(const QRect &cells)
         least = area;
         halves = {first, second};
     };
-    for (int row = box.top(); row < box.bottom(); ++row)
+    // Between lines that are alike no cut is better than beside them.
+    quint64 steps = 0;
+    for (const quint64 bits : drawnCells)
+        steps |= bits ^ (bits >> 1);
+    for (int row = box.top(); row < box.bottom(); ++row) {
+        if (drawnCells[std::size_t(row)] == drawnCells[std::size_t(row + 1)])
+            continue;
         consider({box.topLeft(), QPoint(box.right(), row)},
                  {QPoint(box.left(), row + 1), box.bottomRight()});
-    for (int column = box.left(); column < box.right(); ++column)
+    }
+    for (int column = box.left(); column < box.right(); ++column) {
+        if ((steps >> column & 1) == 0)
+            continue;
         consider({box.topLeft(), QPoint(column, box.bottom())},
                  {QPoint(column + 1, box.top()), box.bottomRight()});
+    }
     if (halves.first.isEmpty()) {
         pieces.append(dotsOf(box));
         return;
