@@ -175,7 +175,7 @@ const QImage &Blackboard::axesOf(const ChartFrame &frame)
     picture.setDevicePixelRatio(frame.pixelRatio);
     picture.fill(frame.ground);
     QPainter painter(&picture);
-    ChartPainter(&painter, frame, &gc()).drawAxes();
+    ChartPainter(&painter, frame).drawAxes();
     return picture;
 }
 
@@ -220,7 +220,7 @@ void Blackboard::paintEvent(QPaintEvent *event)
     const float value = valueMap.value(time);
     const ChartMarker marker = markerAt(x, value);
     qDebug() << "Nearest X:" << time << "Value " << value;
-    ChartPainter(&painter, frame, &gc()).drawMarker(marker);
+    ChartPainter(&painter, frame).drawMarker(marker);
     paintedMarker = ChartPainter::markerRect(marker, height());
     // Kept[touch-from-painting]: again with every repaint.
     // Whoever listens may change what lies around the chart: not under a painter at work.

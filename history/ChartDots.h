@@ -2,6 +2,7 @@
 
 #include "history/ChartPainter.h"
 #include "history/DotStamps.h"
+#include "mainscreen/PmColorGenerator.h"
 
 #include <QMap>
 

@@ -55,7 +55,7 @@ QImage disc(QRgb color)
     static const QImage white = ringPart(Qt::NoPen, Qt::white);
     QImage disc = white;
     auto *pixels = reinterpret_cast<QRgb *>(disc.bits());
-    std::transform(pixels, pixels + disc.width() * disc.height(), pixels,
+    std::transform(pixels, pixels + disc.sizeInBytes() / qsizetype(sizeof(QRgb)), pixels,
                    [color](QRgb pixel) { return tinted(color, qAlpha(pixel)); });
     return disc;
 }
@@ -74,10 +74,9 @@ bool ChartFrame::hasAxesOf(ChartFrame other) const
     return *this == other;
 }
 
-ChartPainter::ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGenerator *scale)
+ChartPainter::ChartPainter(QPainter *target, const ChartFrame &shown)
     : painter(target)
     , frame(shown)
-    , colors(scale)
 {
     painter->setRenderHint(QPainter::Antialiasing);
     // The default family of the device.

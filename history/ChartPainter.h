@@ -1,7 +1,6 @@
 #pragma once
 
 #include "history/ChartScale.h"
-#include "mainscreen/PmColorGenerator.h"
 
 #include <QColor>
 #include <QPainter>
@@ -43,7 +42,7 @@ class ChartPainter
 {
 public:
     /// Paints on @p target, which must be active as long as this object is used.
-    ChartPainter(QPainter *target, const ChartFrame &shown, PmColorGenerator *scale);
+    ChartPainter(QPainter *target, const ChartFrame &shown);
 
     /// Draws the axes and their grid.
     void drawAxes();
@@ -63,5 +62,4 @@ private:
 
     QPainter *painter;
     const ChartFrame &frame;
-    PmColorGenerator *colors;
 };

@@ -7,7 +7,7 @@
 namespace {
 // Some megabytes. Readings at regular times have a hundred places.
 constexpr qsizetype mostStamps = 4096;
-constexpr int bytesOfPixel = 4;
+constexpr qsizetype bytesOfPixel = 4;
 
 void drawPoints(QImage *picture, const QList<QPointF> &centers, const QBrush &brush, int size)
 {
@@ -27,10 +27,10 @@ constexpr quint16 thinned(quint16 channel, quint16 share)
 }
 
 // In a form of which the compiler makes many bytes at once.
-void layOver(uchar *row, const uchar *stamp, const uchar *ink, int bytes)
+void layOver(uchar *row, const uchar *stamp, const uchar *ink, qsizetype bytes)
 {
     const quint16 alpha = qAlpha(*reinterpret_cast<const QRgb *>(ink));
-    for (int i = 0; i < bytes; ++i) {
+    for (qsizetype i = 0; i < bytes; ++i) {
         const auto left = quint16(255 - thinned(alpha, stamp[i]));
         row[i] = uchar(thinned(ink[i], stamp[i]) + thinned(row[i], left));
     }
@@ -87,7 +87,8 @@ const uchar *DotStamps::stampAt(double fraction)
     }
     QImage stamp(width, size, QImage::Format_ARGB32_Premultiplied);
     stamp.fill(Qt::transparent);
-    drawPoints(&stamp, {QPointF(size / 2 + fraction, size / 2)}, Qt::white, size);
+    const int middle = size / 2;
+    drawPoints(&stamp, {QPointF(middle + fraction, middle)}, Qt::white, size);
     const std::size_t place = stamps.size();
     places.insert(fraction, place);
     stamps.insert(stamps.end(), stamp.constBits(), stamp.constBits() + stamp.sizeInBytes());

@@ -31,7 +31,7 @@ public:
 private:
     struct Part
     {
-        QLabel *label;
+        QLabel *label = nullptr;
         QRect painted; ///< where it is seen
     };
 
