@@ -158,8 +158,9 @@ void SparseProxy::cut(const QRect &cells)
     quint64 steps = 0;
     for (const quint64 bits : drawnCells)
         steps |= bits ^ (bits >> 1);
-    for (int row = box.top(); row < box.bottom(); ++row) {
-        if (drawnCells[std::size_t(row)] == drawnCells[std::size_t(row + 1)])
+    const quint64 *line = &drawnCells[std::size_t(box.top())];
+    for (int row = box.top(); row < box.bottom(); ++row, ++line) {
+        if (line[0] == line[1])
             continue;
         consider({box.topLeft(), QPoint(box.right(), row)},
                  {QPoint(box.left(), row + 1), box.bottomRight()});
