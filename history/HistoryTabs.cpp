@@ -5,6 +5,10 @@
 namespace {
 class Bar : public QTabBar
 {
+public:
+    // The name that the bar has which QTabWidget makes.
+    Bar() { setObjectName(QStringLiteral("qt_tabwidget_tabbar")); }
+
 protected:
     QSize tabSizeHint(int) const override { return {100, 50}; }
 };
