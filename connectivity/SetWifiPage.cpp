@@ -1,11 +1,11 @@
 #include "connectivity/SetWifiPage.h"
 
-#include "pages/ScrollThumb.h"
 #include "connectivity/WifiListModel.h"
 #include "connectivity/WifiListRowDelegate.h"
 #include "connectivity/WifiScan.h"
 #include "connectivity/passwordKeyboard.h"
 #include "device/RegularFile.h"
+#include "pages/ScrollThumb.h"
 #include "pages/TouchList.h"
 #include "ui_SetWifiPage.h"
 

@@ -1,9 +1,9 @@
 #include "connectivity/locationResult.h"
 
 #include "connectivity/LineCaret.h"
-#include "pages/ScrollThumb.h"
 #include "pages/DragScroll.h"
 #include "pages/RowLight.h"
+#include "pages/ScrollThumb.h"
 #include "ui_locationResult.h"
 
 namespace {
