@@ -1,29 +1,19 @@
-#include "acquisition/GetData.h"
 #include "connectivity/SetWifiPage.h"
 #include "device/Backlight.h"
-#include "mainscreen/MainView.h"
 #include "mainscreen/PmAnimation.h"
-#include "pages/Look.h"
-#include "shell/MainWindow.h"
 #include "shell/ScreenOff.h"
 #include "testkit/CallSlot.h"
 #include "testkit/Environment.h"
 #include "testkit/MessageLog.h"
 #include "testkit/TableRows.h"
-#include "testkit/Touch.h"
+#include "tests/mainscreen/ShownMainScreen.h"
 
-#include <QGraphicsProxyWidget>
 #include <QLabel>
-#include <QPainter>
 #include <QPropertyAnimation>
-#include <QScreen>
 #include <QSignalSpy>
-#include <QStyleOptionGraphicsItem>
-#include <QTimeLine>
 #include <QTimer>
 
 namespace {
-constexpr QPoint freeGround(300, 60);
 constexpr QPoint pmNumber(330, 240);
 
 struct Way
@@ -58,7 +48,7 @@ struct Reading
 };
 } // namespace
 
-class TestMainScreen : public QObject
+class TestMainScreen : public ShownMainScreen
 {
     Q_OBJECT
 
@@ -370,88 +360,6 @@ private slots:
         QVERIFY(!embedded("frame_humidity")->isVisible());
         QCOMPARE(timeLine->duration(), 500);
     }
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        paintings += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-private:
-    /// The widget of that name, of the pages in their order or of the overlay.
-    QWidget *embedded(const QString &name) const
-    {
-        QWidget *found = nullptr;
-        for (QGraphicsItem *item : view->scene()->items(Qt::AscendingOrder)) {
-            if (item->isWidget() && !found)
-                found =
-                    static_cast<QGraphicsProxyWidget *>(item)->widget()->findChild<QWidget *>(name);
-        }
-        return found;
-    }
-
-    QImage onScreen() const { return window->screen()->grabWindow(window->winId()).toImage(); }
-
-    QPoint centre(const QString &name) const
-    {
-        const QWidget *widget = embedded(name);
-        return widget->mapTo(widget->window(), widget->rect().center());
-    }
-
-    /// The main screen without any picture that was kept.
-    QImage drawnAnew() const
-    {
-        QPixmap whole(Look::screen);
-        whole.fill(view->backgroundBrush().color());
-        QPainter painter(&whole);
-        for (QGraphicsItem *item : view->scene()->items(Qt::AscendingOrder)) {
-            painter.setTransform(item->sceneTransform());
-            painter.setOpacity(item->opacity());
-            if (!item->isWidget()) {
-                const QStyleOptionGraphicsItem option;
-                item->paint(&painter, &option, nullptr);
-                continue;
-            }
-            QPixmap own(Look::screen);
-            own.fill(Qt::transparent);
-            static_cast<QGraphicsProxyWidget *>(item)->widget()->render(&own);
-            // A page that comes ends at the tiles.
-            const int end = item->x() > 0 ? 590 - int(item->x()) : own.width();
-            painter.drawPixmap(0, 0, own, 0, 0, end, own.height());
-        }
-        painter.end();
-        return whole.toImage();
-    }
-
-    void tap(const QString &name) { tapAt(window.get(), centre(name)); }
-    double position() const { return embedded("frame_center")->window()->x() / 854.0; }
-
-    void report(int reading) const
-    {
-        auto *scheduler = view->findChild<GetData *>();
-        emit scheduler->signal_updatePMData(reading);
-        emit scheduler->signal_updateTempData(reading);
-        emit scheduler->signal_updateHumData(reading);
-    }
-
-    void endSlide()
-    {
-        if (timeLine->state() == QTimeLine::Running)
-            timeLine->setCurrentTime(timeLine->duration());
-        QTRY_COMPARE(timeLine->state(), QTimeLine::NotRunning);
-    }
-
-    void swipe(int distance)
-    {
-        drag(window.get(), freeGround, freeGround + QPoint(distance, 90));
-        endSlide();
-    }
-
-    std::unique_ptr<MainWindow> window;
-    MainView *view = nullptr;
-    QTimeLine *timeLine = nullptr;
-    int paintings = 0;
 };
 
 ZELL_TEST_MAIN(TestMainScreen)
